@@ -1,0 +1,75 @@
+# Compiler settings and the functions that every folder's CMakeLists.txt uses.
+
+add_library(zul_warnings INTERFACE)
+target_compile_options(zul_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
+    -Wformat=2 -Wcast-align -Wnull-dereference -Wconversion -Wsign-conversion
+    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>)
+if(ZUL_WERROR)
+    target_compile_options(zul_warnings INTERFACE -Werror)
+endif()
+
+add_library(zul_qt_settings INTERFACE)
+target_compile_definitions(zul_qt_settings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
+    QT_DEPRECATED_WARNINGS)
+
+if(ZUL_SANITIZE)
+    add_compile_options(-fsanitize=${ZUL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${ZUL_SANITIZE})
+    # The sanitizers' instrumentation makes GCC see null pointers that are not there.
+    target_compile_options(zul_warnings INTERFACE -Wno-null-dereference)
+endif()
+
+find_program(ZUL_MOLD mold)
+if(ZUL_MOLD)
+    add_link_options(-fuse-ld=mold)
+endif()
+
+find_program(ZUL_CCACHE ccache)
+if(ZUL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    # Without these two, ccache refuses to cache what is compiled with a precompiled header.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${ZUL_CCACHE})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        add_compile_options(-fpch-preprocess)
+    endif()
+endif()
+
+# zul_library(name [QT] SOURCES ... LINKS ... [PCH header...])
+# One floor of the house: a static library of the named sources.
+function(zul_library name)
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS;PCH" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE zul_warnings)
+    if(ARG_QT)
+        target_link_libraries(${name} PRIVATE zul_qt_settings)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    endif()
+    if(ARG_PCH)
+        target_precompile_headers(${name} PRIVATE ${ARG_PCH})
+    endif()
+endfunction()
+
+# zul_test(name [QT] SOURCES ... LINKS ... [LABELS ...])
+# One test program, run by CTest as one test.
+function(zul_test name)
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock zul_warnings)
+    target_compile_options(${name} PRIVATE -Wno-null-dereference)
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    if(ARG_QT)
+        target_link_libraries(${name} PRIVATE zul_qt_settings)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    endif()
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 300
+        ENVIRONMENT "TZ=UTC;QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    if(ARG_LABELS)
+        set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}")
+    endif()
+endfunction()

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "message/Message.h"
+#include "message/MessageData.h"
+#include "message/TimeStamp.h"
+
+#include <cstdint>
+
+namespace zul {
+
+/// One CAN or CAN FD frame.
+class MESSAGE_INTERFACE_EXPORT MessageCan : public Message
+{
+public:
+    /// What kind of frame this is. In an error frame identifier and payload mean nothing.
+    enum class EFrameType : std::uint32_t { Data = 0, Remote = 1, Error = 255 };
+
+    /// Addressing mode. The odd values carry 29-bit identifiers.
+    enum class EMsgMode : std::uint32_t {
+        Standard = 0,
+        Extended = 1,
+        StandardFd = 2,
+        ExtendedFd = 3,
+        StandardFdBrs = 4, ///< FD with bit-rate switch
+        ExtendedFdBrs = 5  ///< FD with bit-rate switch
+    };
+
+    using TimeStamp = TimeStampRecord;
+
+    MessageCan();
+    ~MessageCan() override;
+    MessageCan(const MessageCan& other);
+    MessageCan& operator=(const MessageCan& other);
+
+    /// The CAN identifier, 11 or 29 bits by `mode()`.
+    std::uint32_t id() const;
+    void setId(std::uint32_t id);
+
+    /// Number of valid payload bytes, 0 to 64. The value is kept as set; readers bound it.
+    std::uint32_t byteCount() const;
+    void setByteCount(std::uint32_t byteCount);
+
+    EFrameType frameType() const;
+    void setFrameType(EFrameType frameType);
+
+    EMsgMode mode() const;
+    void setMode(EMsgMode mode);
+
+    /// Channel of the device on which the frame was seen.
+    std::uint32_t channel() const;
+    void setChannel(std::uint32_t channel);
+
+    /// Non-zero marks a frame for the device's scheduled-send memory: its time stamp is then a
+    /// delay from the start control on (see `MessageCtrl`).
+    std::uint32_t cpmMode() const;
+    void setCpmMode(std::uint32_t cpmMode);
+
+    /// Time of the frame. Both views always tell the same instant, whichever setter was used.
+    TimeStamp timeStamp() const;
+    /// Time of the frame in seconds.
+    double timeStampDouble() const;
+    void setTimeStamp(const TimeStamp& timeStamp);
+    /// Sets the time in seconds; values that the record cannot hold are clamped.
+    void setTimeStamp(double seconds);
+
+    /// The payload.
+    MessageData& msg();
+    const MessageData& msg() const;
+
+private:
+    MessageData m_data;
+    std::uint32_t m_id = 0;
+    std::uint32_t m_byteCount = 0;
+    EFrameType m_frameType = EFrameType::Data;
+    EMsgMode m_mode = EMsgMode::Standard;
+    TimeStamp m_timeStamp;
+    std::uint32_t m_channel = 0;
+    std::uint32_t m_cpmMode = 0;
+};
+
+} // namespace zul
