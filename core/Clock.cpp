@@ -1,6 +1,7 @@
 #include "core/Clock.h"
 
 #include <QDateTime>
+
 #include <utility>
 
 namespace zul {
@@ -22,8 +23,8 @@ double wallClock()
         return source();
     }
     const qint64 milliseconds = QDateTime::currentMSecsSinceEpoch();
-    return static_cast<double>(milliseconds / 1000)
-           + static_cast<double>(milliseconds % 1000) * 0.001;
+    return static_cast<double>(milliseconds / 1000) +
+           static_cast<double>(milliseconds % 1000) * 0.001;
 }
 
 ClockOverride::ClockOverride(std::function<double()> source)

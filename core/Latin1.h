@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+
 #include <cstdint>
 #include <string>
 
@@ -18,9 +19,9 @@ QString fromLatin1(const std::string& text);
 int leadingInt(const QString& text);
 
 /// The leading number of `text`, with its base taken from its prefix: "0x" is hexadecimal, "0"
-/// octal, else decimal. No number gives 0. The full text must be the number, blanks around it aside.
-/// Values of 32 bits keep their bits: "0xFE00007F" gives 0xFE00007F, "-1" gives 0xFFFFFFFF; what 32
-/// bits cannot hold gives 0.
+/// octal, else decimal. No number gives 0. The full text must be the number, blanks around it
+/// aside. Values of 32 bits keep their bits: "0xFE00007F" gives 0xFE00007F, "-1" gives 0xFFFFFFFF;
+/// what 32 bits cannot hold gives 0.
 std::uint32_t numberWithPrefix(const QString& text);
 
 } // namespace zul

@@ -12,11 +12,11 @@ void lowPass(double sample, double gain, double dt, double& state)
     const auto x = static_cast<float>(sample);
     const auto y = static_cast<float>(state);
     const double divisor = static_cast<double>(k) + static_cast<double>(w);
-    if (divisor <= 0.0) {
+    if (!(divisor > 0.0)) { // also when `dt` is no number
         return;
     }
-    const double sum = static_cast<double>(k) * static_cast<double>(y)
-                       + static_cast<double>(x) * static_cast<double>(w);
+    const double sum = static_cast<double>(k) * static_cast<double>(y) +
+                       static_cast<double>(x) * static_cast<double>(w);
     state = static_cast<double>(static_cast<float>(sum / divisor));
 }
 

@@ -5,8 +5,8 @@ namespace zul {
 /// One step of the program's first-order smoothing, weighted by wall-clock time.
 ///
 /// With w = min(1, `dt`) and gain k the state becomes (k * state + sample * w) / (k + w): after a
-/// second or more the sample weighs 1 against k. The operands are single precision, as is the result
-/// before it is stored. A clock that jumps back counts as no time passed.
+/// second or more the sample weighs 1 against k. The operands are single precision, as is the
+/// result before it is stored. A clock that jumps back counts as no time passed.
 void lowPass(double sample, double gain, double dt, double& state);
 
 } // namespace zul

@@ -5,6 +5,7 @@
 #include "core/GuardedCall.h"
 
 #include <QCoreApplication>
+
 #include <array>
 #include <utility>
 
@@ -25,8 +26,8 @@ Function resolveExport(const zul::DynamicLibrary& library, const char* name,
 {
     const auto function = library.resolve(name);
     if (function == nullptr) {
-        zul::printError("Module <%s> Function <%s> not found !\n",
-                        localText(fileName).constData(), name);
+        zul::printError("Module <%s> Function <%s> not found !\n", localText(fileName).constData(),
+                        name);
     }
     return reinterpret_cast<Function>(function);
 }
@@ -35,8 +36,8 @@ Function resolveExport(const zul::DynamicLibrary& library, const char* name,
 
 ModuleRegistry& ModuleRegistry::instance()
 {
-    static auto* registry
-        = new ModuleRegistry(searchDirectories(QCoreApplication::applicationDirPath()));
+    static auto* registry =
+        new ModuleRegistry(searchDirectories(QCoreApplication::applicationDirPath()));
     return *registry;
 }
 
@@ -122,16 +123,16 @@ void ModuleRegistry::loadFile(const QString& directory, const QString& fileName)
     if (getInfo == nullptr) {
         return;
     }
-    const auto info = zul::guardedCall(
-        "getInfo", std::optional<DeviceInfo>(), [&] { return std::make_optional(getInfo()); });
+    const auto info = zul::guardedCall("getInfo", std::optional<DeviceInfo>(),
+                                       [&] { return std::make_optional(getInfo()); });
     if (!info) {
         return;
     }
     zul::print("Module %s %s found Properties %d handle %d\n", info->displayName.c_str(),
                info->moduleName.c_str(), static_cast<int>(info->properties.size()),
                library.handle());
-    const auto createDevice
-        = resolveExport<ModuleEntry::CreateDevice>(library, "createDevice", fileName);
+    const auto createDevice =
+        resolveExport<ModuleEntry::CreateDevice>(library, "createDevice", fileName);
     if (createDevice == nullptr) {
         return;
     }

@@ -4,6 +4,7 @@
 #include "message/Device.h"
 
 #include <QStringList>
+
 #include <map>
 #include <optional>
 #include <string>

@@ -10,7 +10,8 @@ Observer::Observer() = default;
 
 Observer::~Observer()
 {
-    for (ObserverModel* model : m_models) {
+    const std::vector<ObserverModel*> models = m_models; // detaching takes them off the list
+    for (ObserverModel* model : models) {
         model->detach(this);
     }
 }

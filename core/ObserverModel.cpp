@@ -25,6 +25,8 @@ void ObserverModel::detach(Observer* observer)
     for (auto& entry : m_byAspect) {
         entry.second.erase(observer);
     }
+    // Otherwise an observer that outlives the model would detach from a dead one.
+    observer->forget(this);
 }
 
 void ObserverModel::notify(int aspect)

@@ -17,6 +17,7 @@ public:
     ObserverModel& operator=(const ObserverModel&) = delete;
 
     virtual void attach(Observer* observer, int aspect);
+    /// Takes the observer off every aspect; it forgets this model.
     virtual void detach(Observer* observer);
     /// Calls the observers of `aspect`; with aspect 0 every attached observer. An observer that is
     /// detached by one called before it is left out.

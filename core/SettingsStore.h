@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QString>
+
 #include <map>
 
-/// The user's settings: keys and values that live in "zul.ini" of the home directory. What a project
-/// has to remember stands in the project file instead.
+/// The user's settings: keys and values that live in "zul.ini" of the home directory. What a
+/// project has to remember stands in the project file instead.
 class SettingsStore
 {
 public:

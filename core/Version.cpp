@@ -9,8 +9,8 @@ std::string productName()
 
 std::string versionNumbers()
 {
-    return std::to_string(version.major) + "." + std::to_string(version.minor) + "."
-           + std::to_string(version.patch);
+    return std::to_string(version.major) + "." + std::to_string(version.minor) + "." +
+           std::to_string(version.patch);
 }
 
 std::string versionText()

@@ -5,34 +5,96 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QTextStream>
-#include <QXmlStreamReader>
+#include <QXmlInputSource>
 
 namespace zul {
 
 namespace {
 
-// The reason why the text cannot be taken, or an empty string.
-QString refusal(const QByteArray& text)
+constexpr int endOfText = -1;
+
+// The place behind the next `mark`, or endOfText.
+int behind(const QString& text, QLatin1String mark, int from)
 {
-    QXmlStreamReader reader(text);
+    const int found = text.indexOf(mark, from);
+    return found < 0 ? endOfText : found + mark.size();
+}
+
+// The place of the next of two characters outside quotes, or endOfText.
+int findOutsideQuotes(const QString& text, int from, QChar one, QChar other)
+{
+    QChar quote;
+    for (int i = from; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        if (!quote.isNull()) {
+            quote = character == quote ? QChar() : quote;
+        } else if (character == one || character == other) {
+            return i;
+        } else if (character == QLatin1Char('"') || character == QLatin1Char('\'')) {
+            quote = character;
+        }
+    }
+    return endOfText;
+}
+
+// The place behind what stands at `open`, where a markup without elements begins: comment, CDATA,
+// processing instruction or declaration. endOfText if it does not end.
+int skipMarkup(const QString& text, int open)
+{
+    const QStringRef rest = text.midRef(open);
+    if (rest.startsWith(QLatin1String("<!--"))) {
+        return behind(text, QLatin1String("-->"), open + 4);
+    }
+    if (rest.startsWith(QLatin1String("<![CDATA["))) {
+        return behind(text, QLatin1String("]]>"), open);
+    }
+    if (rest.startsWith(QLatin1String("<?"))) {
+        return behind(text, QLatin1String("?>"), open);
+    }
+    return behind(text, QLatin1String(">"), open);
+}
+
+// The reason why the document must not be built, or an empty string. Well-formedness is not
+// looked at: what comes behind an error in the text is never built.
+QString refusal(const QString& text)
+{
+    const QChar less = QLatin1Char('<');
     int depth = 0;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement:
-            if (++depth > maxXmlDepth) {
-                return QStringLiteral("nested deeper than %1 elements").arg(maxXmlDepth);
+    for (int i = text.indexOf(less); i != endOfText; i = text.indexOf(less, i)) {
+        const QChar next = i + 1 < text.size() ? text.at(i + 1) : QChar();
+        if (text.midRef(i).startsWith(QLatin1String("<!DOCTYPE"))) {
+            i = findOutsideQuotes(text, i, QLatin1Char('['), QLatin1Char('>'));
+            if (i != endOfText && text.at(i) == QLatin1Char('[')) {
+                return QStringLiteral("it declares entities of its own");
             }
-            break;
-        case QXmlStreamReader::EndElement:
-            --depth;
-            break;
-        case QXmlStreamReader::DTD:
-            return QStringLiteral("it has a document type");
-        default:
+        } else if (next == QLatin1Char('!') || next == QLatin1Char('?')) {
+            i = skipMarkup(text, i);
+        } else {
+            const bool isEndTag = next == QLatin1Char('/');
+            i = findOutsideQuotes(text, i, QLatin1Char('>'), QLatin1Char('>'));
+            const bool isEmpty = i != endOfText && text.at(i - 1) == QLatin1Char('/');
+            depth += isEndTag ? -1 : (isEmpty ? 0 : 1);
+        }
+        if (depth > maxXmlDepth) {
+            return QStringLiteral("nested deeper than %1 elements").arg(maxXmlDepth);
+        }
+        if (i == endOfText) {
             break;
         }
     }
-    return reader.hasError() ? reader.errorString() : QString();
+    return QString();
+}
+
+// The text by its byte order mark or the encoding it declares. QDomDocument does the same with
+// bytes; here it must not come to another text than the one that was looked at.
+QString decoded(const QByteArray& bytes)
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // there is no other way to this decoder
+        QXmlInputSource source;
+    QT_WARNING_POP
+    source.setData(bytes);
+    return source.data();
 }
 
 XmlLoad broken(const QString& path, const QString& reason)
@@ -52,10 +114,11 @@ XmlLoad loadXmlFile(const QString& path, QDomDocument& document)
         return XmlLoad::Absent;
     }
     // One byte more than allowed tells a file that is too large, also where size() knows nothing.
-    const QByteArray text = file.read(maxXmlBytes + 1);
-    if (text.size() > maxXmlBytes) {
+    const QByteArray bytes = file.read(maxXmlBytes + 1);
+    if (bytes.size() > maxXmlBytes) {
         return broken(path, QStringLiteral("larger than %1 bytes").arg(maxXmlBytes));
     }
+    const QString text = decoded(bytes);
     const QString reason = refusal(text);
     if (!reason.isEmpty()) {
         return broken(path, reason);

@@ -9,7 +9,7 @@ namespace zul {
 enum class XmlLoad {
     Loaded,
     Absent, ///< no such file, or it cannot be opened
-    Broken  ///< not well-formed, nested too deeply, or too large
+    Broken  ///< not XML, nested too deeply, too large, or with a document type of its own entities
 };
 
 /// Deepest nesting that is read; far beyond every file of this program. `QDomDocument` frees its
@@ -19,9 +19,10 @@ inline constexpr int maxXmlDepth = 200;
 /// Largest file that is read, in bytes. In memory a document takes some ten times its file.
 inline constexpr qint64 maxXmlBytes = qint64{64} * 1024 * 1024;
 
-/// Reads the file into `document`. A file that is not well-formed counts as not loaded: nothing
-/// that stands before its error is taken, and `document` is left empty. A broken file gives one
-/// line on the console, an absent one none.
+/// Reads the file into `document`. What `QDomDocument` cannot parse to the end counts as not
+/// loaded: nothing that stands before the error is taken, and `document` is left empty. A document
+/// type that declares entities is refused, since a short file of that kind can fill the memory. A
+/// broken file gives one line on the console, an absent one none.
 XmlLoad loadXmlFile(const QString& path, QDomDocument& document);
 
 /// Writes the document with an indent of 4, in UTF-8. The file is replaced in one step: if anything

@@ -3,6 +3,10 @@
 #include "core/Latin1.h"
 #include "core/XmlFile.h"
 
+#include <array>
+#include <charconv>
+#include <limits>
+
 namespace zul {
 
 namespace {
@@ -93,8 +97,14 @@ void XmlHandler::writeInt(QDomDocument& document, QDomElement& element, const QS
 void XmlHandler::writeDouble(QDomDocument& document, QDomElement& element, const QString& name,
                              double value)
 {
+    // Deliberate: the text of "%.12f", also for -0.0, where QString::number loses the sign.
     constexpr int places = 12;
-    writeString(document, element, name, QString::number(value, 'f', places));
+    constexpr std::size_t longest = std::numeric_limits<double>::max_exponent10 + places + 4;
+    std::array<char, longest> text{};
+    const auto result = std::to_chars(text.data(), text.data() + text.size(), value,
+                                      std::chars_format::fixed, places);
+    writeString(document, element, name,
+                QString::fromLatin1(text.data(), static_cast<int>(result.ptr - text.data())));
 }
 
 QDomElement XmlHandler::addElement(QDomDocument& document, QDomNode& parent, const QString& name)

@@ -2,6 +2,7 @@
 
 #include <QDomDocument>
 #include <QString>
+
 #include <string>
 
 namespace zul {

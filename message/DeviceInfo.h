@@ -47,6 +47,6 @@ struct MESSAGE_INTERFACE_EXPORT DeviceInfo
 
     std::string displayName; ///< shown in the list of devices
     std::string description;
-    std::string moduleName; ///< identifies the module, also in project files
+    std::string moduleName;                 ///< identifies the module, also in project files
     std::vector<DeviceProperty> properties; ///< in display order
 };

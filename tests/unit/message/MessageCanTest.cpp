@@ -1,10 +1,10 @@
 #include "message/MessageCan.h"
+
 #include "message/MessageCtrl.h"
 #include "message/MessageStatus.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 #include <memory>
 #include <random>

@@ -1,8 +1,8 @@
-#include "message/MessageCan.h"
 #include "message/MessageContainer.h"
 
-#include <gtest/gtest.h>
+#include "message/MessageCan.h"
 
+#include <gtest/gtest.h>
 #include <memory>
 
 namespace {

@@ -1,7 +1,6 @@
 #include "message/SmartPtr.h"
 
 #include <gtest/gtest.h>
-
 #include <utility>
 
 namespace {
