@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -23,7 +24,7 @@ namespace {
 constexpr int listWidth = 150; // pixels
 constexpr int gridSpacing = 5;
 constexpr int columnsOfEditor = 2;
-constexpr QSize firstSize(780, 560);
+constexpr QSize firstSize(900, 700);
 constexpr const char* interfaceNameKey = "InterfaceName";
 
 DeviceInfo infoOf(Device& device)
@@ -41,6 +42,8 @@ DialogInterfaceProperties::DialogInterfaceProperties(QWidget* parent) : QDialog(
     left->addWidget(new QLabel(QStringLiteral("Available Devices"), this));
     m_devices = new QListWidget(this);
     m_devices->setMinimumWidth(listWidth);
+    m_devices->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
+    m_devices->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     m_devices->setObjectName(QStringLiteral("devices"));
     left->addWidget(m_devices);
 
@@ -49,8 +52,7 @@ DialogInterfaceProperties::DialogInterfaceProperties(QWidget* parent) : QDialog(
     auto* columns = new QGridLayout;
     columns->addLayout(left, 0, 0);
     columns->addWidget(group, 0, 1);
-    columns->setColumnStretch(0, 1);
-    columns->setColumnStretch(1, 2);
+    columns->setColumnStretch(1, 1);
 
     auto* ok = new QPushButton(QStringLiteral("Ok"), this);
     ok->setObjectName(QStringLiteral("ok"));
@@ -144,7 +146,12 @@ void DialogInterfaceProperties::rebuildEditors()
         m_editors[property.key] = editor;
     }
     grid->setRowStretch(row, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 2);
     area->setWidget(content);
+    // Wide enough for every editor, so that only the height may need scrolling.
+    area->setMinimumWidth(content->minimumSizeHint().width()
+                          + area->verticalScrollBar()->sizeHint().width());
     m_page = area;
     m_pageLayout->addWidget(m_page);
 }

@@ -29,6 +29,8 @@ constexpr int rowHeight = 20; // pixels
 constexpr int cellFontPixels = 12;
 constexpr int connectWidth = 104;
 constexpr int visibleRows = 6;
+constexpr int minimumSection = 50;
+constexpr int tableWidth = 280;
 constexpr QSize toolIconSize(20, 20);
 
 bool isClosed(comm::CanInterface& interface)
@@ -104,7 +106,10 @@ void DialogProject::buildTable()
     m_table->verticalHeader()->setDefaultSectionSize(rowHeight);
     m_table->horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::ResizeToContents);
     m_table->setColumnWidth(connectColumn, connectWidth);
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setMinimumSectionSize(minimumSection);
+    m_table->horizontalHeader()->setSectionResizeMode(loadColumn, QHeaderView::Stretch);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->setMinimumWidth(tableWidth);
     m_table->setFixedHeight(m_table->horizontalHeader()->sizeHint().height() +
                             visibleRows * rowHeight);
 }

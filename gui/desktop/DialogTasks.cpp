@@ -5,10 +5,17 @@
 
 namespace gui {
 
+namespace {
+
+constexpr QSize iconSize(18, 18);
+
+} // namespace
+
 DialogTasks::DialogTasks(QWidget* parent) : QWidget(parent), m_list(new QListWidget(this))
 {
     m_list->setWindowTitle(QStringLiteral("Tasks"));
     m_list->setObjectName(QStringLiteral("tasks"));
+    m_list->setIconSize(iconSize);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
