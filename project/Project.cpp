@@ -105,11 +105,12 @@ void Project::clear()
 
 bool Project::load(const QString& path)
 {
+    const QString fileName = path; // it may be this project's own, which clear() empties
     clear();
-    m_fileName = path;
+    m_fileName = fileName;
     m_window = WindowRectangle();
     QDomDocument document;
-    m_fileBroken = zul::loadXmlFile(path, document) == zul::XmlLoad::Broken;
+    m_fileBroken = zul::loadXmlFile(m_fileName, document) == zul::XmlLoad::Broken;
     const QDomElement root = document.documentElement();
     for (QDomElement element = root.firstChildElement(); !element.isNull();
          element = element.nextSiblingElement()) {
