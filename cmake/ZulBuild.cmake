@@ -17,8 +17,10 @@ target_compile_definitions(zul_qt_settings INTERFACE
 if(ZUL_SANITIZE)
     add_compile_options(-fsanitize=${ZUL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${ZUL_SANITIZE})
-    # The sanitizers' instrumentation makes GCC see null pointers that are not there.
-    target_compile_options(zul_warnings INTERFACE -Wno-null-dereference)
+    # The sanitizers' instrumentation makes GCC see null pointers and uninitialised members that are
+    # not there.
+    target_compile_options(zul_warnings INTERFACE -Wno-null-dereference
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 
 find_program(ZUL_MOLD mold)
