@@ -29,11 +29,12 @@ if(ZUL_MOLD)
 endif()
 
 find_program(ZUL_CCACHE ccache)
-if(ZUL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+# An empty launcher on the command line means none.
+if(ZUL_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
     # Without these two, ccache refuses to cache what is compiled with a precompiled header.
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${ZUL_CCACHE})
-    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
         add_compile_options(-fpch-preprocess)
     endif()
 endif()
