@@ -17,8 +17,10 @@ target_compile_definitions(zul_qt_settings INTERFACE
 if(ZUL_SANITIZE)
     add_compile_options(-fsanitize=${ZUL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${ZUL_SANITIZE})
-    # The sanitizers' instrumentation makes GCC see null pointers that are not there.
-    target_compile_options(zul_warnings INTERFACE -Wno-null-dereference)
+    # The sanitizers' instrumentation makes GCC see null pointers and uninitialised members that are
+    # not there.
+    target_compile_options(zul_warnings INTERFACE -Wno-null-dereference
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 
 find_program(ZUL_MOLD mold)
@@ -27,11 +29,12 @@ if(ZUL_MOLD)
 endif()
 
 find_program(ZUL_CCACHE ccache)
-if(ZUL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+# An empty launcher on the command line means none.
+if(ZUL_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
     # Without these two, ccache refuses to cache what is compiled with a precompiled header.
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${ZUL_CCACHE})
-    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
         add_compile_options(-fpch-preprocess)
     endif()
 endif()

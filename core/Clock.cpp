@@ -23,8 +23,9 @@ double wallClock()
         return source();
     }
     const qint64 milliseconds = QDateTime::currentMSecsSinceEpoch();
-    return static_cast<double>(milliseconds / 1000) +
-           static_cast<double>(milliseconds % 1000) * 0.001;
+    const qint64 wholeSeconds = milliseconds / 1000;
+    const qint64 rest = milliseconds % 1000;
+    return static_cast<double>(wholeSeconds) + static_cast<double>(rest) * 0.001;
 }
 
 ClockOverride::ClockOverride(std::function<double()> source)

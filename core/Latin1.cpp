@@ -10,7 +10,7 @@ namespace zul {
 std::string toLatin1(const QString& text)
 {
     const QByteArray bytes = text.toLatin1();
-    return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
 QString fromLatin1(const std::string& text)

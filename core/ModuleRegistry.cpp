@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -62,12 +63,8 @@ bool ModuleRegistry::isModuleName(const QString& fileName)
         return false;
     }
     const QStringRef suffix = fileName.midRef(point);
-    for (const char* known : moduleSuffixes) {
-        if (suffix == QLatin1String(known)) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(moduleSuffixes.begin(), moduleSuffixes.end(),
+                       [&](const char* known) { return suffix == QLatin1String(known); });
 }
 
 ModuleRegistry::ModuleRegistry(const QStringList& directories)

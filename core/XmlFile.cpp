@@ -82,7 +82,7 @@ QString refusal(const QString& text)
             break;
         }
     }
-    return QString();
+    return {};
 }
 
 // The text by its byte order mark or the encoding it declares. QDomDocument does the same with
