@@ -1,5 +1,6 @@
 #include "modules/virtual/ScenarioFactory.h"
 
+#include "modules/virtual/FlightScenario.h"
 #include "modules/virtual/SaturatedScenario.h"
 
 namespace canvirtual {
@@ -8,13 +9,14 @@ std::unique_ptr<Scenario> makeScenario(ScenarioId id, BusTime start)
 {
     switch (id) {
     case ScenarioId::None:
-    case ScenarioId::FlightDemo:
-    case ScenarioId::FdMix:
-    case ScenarioId::ErrorFrames:
-    case ScenarioId::BusOff:
-    case ScenarioId::Burst:
     case ScenarioId::LostDevice:
+    case ScenarioId::Burst:
+    case ScenarioId::BusOff:
+    case ScenarioId::ErrorFrames:
+    case ScenarioId::FdMix:
         return nullptr;
+    case ScenarioId::FlightDemo:
+        return std::make_unique<FlightScenario>(start);
     case ScenarioId::Saturated:
         return std::make_unique<SaturatedScenario>(start);
     case ScenarioId::Shortest:
