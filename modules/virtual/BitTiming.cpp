@@ -11,7 +11,8 @@ template <std::size_t Size>
 constexpr bool ratesMatch(const std::array<TimingPreset, Size>& presets,
                           std::int32_t (*rateOf)(std::uint32_t), std::uint32_t mask)
 {
-    for (const TimingPreset& preset : presets) {
+    // std::all_of is no constant expression in C++17.
+    for (const TimingPreset& preset : presets) { // NOLINT(readability-use-anyofallof)
         if (rateOf(preset.value) != preset.bitRate || (preset.value & ~mask) != 0) {
             return false;
         }

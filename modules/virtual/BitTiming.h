@@ -25,8 +25,8 @@ constexpr std::int32_t roundedRate(std::int64_t clockHz, std::int64_t divisor)
 /// | 15..14 SJW | 13..8 BRP | 7 SAM | 6..4 TSEG2 | 3..0 TSEG1 |, each stored minus one.
 constexpr std::int32_t bitRateFromBtr(std::uint32_t btr)
 {
-    const std::int64_t prescaler = 2 * static_cast<std::int64_t>((btr >> 8U & 0x3FU) + 1);
-    const std::int64_t quanta = static_cast<std::int64_t>((btr & 0xFU) + (btr >> 4U & 0x7U) + 3);
+    const std::int64_t prescaler = std::int64_t{2} * ((btr >> 8U & 0x3FU) + 1U);
+    const std::int64_t quanta = (btr & 0xFU) + (btr >> 4U & 0x7U) + 3U;
     return roundedRate(btrClockHz, prescaler * quanta);
 }
 
@@ -34,8 +34,8 @@ constexpr std::int32_t bitRateFromBtr(std::uint32_t btr)
 /// | 31..25 NSJW | 24..16 NBRP | 15..8 NTSEG1 | 6..0 NTSEG2 |, each stored minus one.
 constexpr std::int32_t bitRateFromNbtp(std::uint32_t nbtp)
 {
-    const auto prescaler = static_cast<std::int64_t>((nbtp >> 16U & 0x1FFU) + 1);
-    const auto quanta = static_cast<std::int64_t>((nbtp >> 8U & 0xFFU) + (nbtp & 0x7FU) + 3);
+    const std::int64_t prescaler = (nbtp >> 16U & 0x1FFU) + 1U;
+    const std::int64_t quanta = (nbtp >> 8U & 0xFFU) + (nbtp & 0x7FU) + 3U;
     return roundedRate(fdClockHz, prescaler * quanta);
 }
 
@@ -43,8 +43,8 @@ constexpr std::int32_t bitRateFromNbtp(std::uint32_t nbtp)
 /// | 23 TDC | 20..16 DBRP | 12..8 DTSEG1 | 7..4 DTSEG2 | 3..0 DSJW |, all but TDC stored minus one.
 constexpr std::int32_t bitRateFromDbtp(std::uint32_t dbtp)
 {
-    const auto prescaler = static_cast<std::int64_t>((dbtp >> 16U & 0x1FU) + 1);
-    const auto quanta = static_cast<std::int64_t>((dbtp >> 8U & 0x1FU) + (dbtp >> 4U & 0xFU) + 3);
+    const std::int64_t prescaler = (dbtp >> 16U & 0x1FU) + 1U;
+    const std::int64_t quanta = (dbtp >> 8U & 0x1FU) + (dbtp >> 4U & 0xFU) + 3U;
     return roundedRate(fdClockHz, prescaler * quanta);
 }
 

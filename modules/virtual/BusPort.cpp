@@ -11,6 +11,13 @@ namespace {
 /// Recessive bits that a passive controller waits after its own frame, on top of the intermission.
 constexpr int suspendBits = 8;
 
+/// Bits of the frame and of the intermission after it.
+std::uint64_t windowBits(const WireFrame& wire)
+{
+    const int bits = wire.pending.bits.total() + intermissionBits;
+    return static_cast<std::uint64_t>(bits);
+}
+
 } // namespace
 
 BusPort::BusPort(const PortSettings& settings, BusTime openedAt)
@@ -106,7 +113,7 @@ void BusPort::observe(const WireFrame& wire, bool ownFrame)
 
 void BusPort::countFrame(const WireFrame& wire, bool ownFrame)
 {
-    const auto bits = static_cast<std::uint64_t>(wire.pending.bits.total() + intermissionBits);
+    const std::uint64_t bits = windowBits(wire);
     if (ownFrame) {
         m_controller.transmitted();
         ++m_counters.sent;
@@ -127,8 +134,7 @@ void BusPort::countFrame(const WireFrame& wire, bool ownFrame)
 void BusPort::countError(const WireFrame& wire, bool ownFrame)
 {
     ++m_counters.errorFrames;
-    m_window.receivedBits +=
-        static_cast<std::uint64_t>(wire.pending.bits.total() + intermissionBits);
+    m_window.receivedBits += windowBits(wire);
     if (ownFrame && wire.pending.fate == FrameFate::OwnDestroyed) {
         m_controller.transmitError(wire.end);
         m_counters.busOff += m_controller.isBusOff() ? 1U : 0U;

@@ -37,6 +37,7 @@ template <std::size_t Size>
 std::vector<PropertyChoice> presetChoices(const std::array<TimingPreset, Size>& presets)
 {
     std::vector<PropertyChoice> choices;
+    choices.reserve(presets.size());
     for (const TimingPreset& preset : presets) {
         choices.push_back({presetText(preset), static_cast<std::int32_t>(preset.value)});
     }
@@ -46,6 +47,7 @@ std::vector<PropertyChoice> presetChoices(const std::array<TimingPreset, Size>& 
 std::vector<PropertyChoice> bitRateChoices()
 {
     std::vector<PropertyChoice> choices;
+    choices.reserve(bitRates.size());
     for (const std::int32_t bitRate : bitRates) {
         choices.push_back({rateText(bitRate), bitRate});
     }
@@ -55,6 +57,7 @@ std::vector<PropertyChoice> bitRateChoices()
 std::vector<PropertyChoice> scenarioChoices()
 {
     std::vector<PropertyChoice> choices;
+    choices.reserve(scenarioNames.size());
     for (std::int32_t number = 0; number < scenarioCount; ++number) {
         choices.push_back({scenarioNames.at(static_cast<std::size_t>(number)), number});
     }

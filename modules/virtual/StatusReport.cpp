@@ -1,6 +1,7 @@
 #include "modules/virtual/StatusReport.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace canvirtual {
@@ -35,7 +36,7 @@ std::int64_t loadInTenths(const PortReport& report)
     }
     // A frame counts when it ends: one that began before the window would make more than 100 %.
     const double share = toSeconds(report.window.busy) / toSeconds(report.elapsed);
-    return static_cast<std::int64_t>(std::min(share, 1.0) * 1000.0 + 0.5);
+    return std::lround(std::min(share, 1.0) * 1000.0);
 }
 
 zul::DeviceStatusEntry stateEntry(DeviceStatus status)
