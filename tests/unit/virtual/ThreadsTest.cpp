@@ -170,8 +170,9 @@ TEST(Threads, NothingIsLostOrTwiceBetweenTwoSaturatedReaders)
 
 TEST(Threads, ProcessRegistryIsMadeOnce)
 {
-    std::vector<std::thread> threads;
     std::vector<BusRegistry*> seen(4, nullptr);
+    std::vector<std::thread> threads;
+    threads.reserve(seen.size());
     for (BusRegistry*& registry : seen) {
         threads.emplace_back([&registry] { registry = &BusRegistry::process(); });
     }

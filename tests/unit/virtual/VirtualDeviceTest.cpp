@@ -258,9 +258,9 @@ TEST_F(VirtualDeviceTest, BusIsNeverFasterThanItsBitRate)
     std::mt19937 random(seed);
     for (const char* bitRate : {"1000000", "500000", "83333"}) {
         const Properties properties = {{"BitRate", bitRate}, {"BusName", bitRate}};
-        std::vector<std::unique_ptr<VirtualDevice>> senders;
-        for (int index = 0; index < 3; ++index) {
-            senders.push_back(openDevice(properties));
+        std::vector<std::unique_ptr<VirtualDevice>> senders(3);
+        for (auto& sender : senders) {
+            sender = openDevice(properties);
         }
         auto listener = openDevice(properties);
         Received received;

@@ -1,0 +1,66 @@
+#include "modules/virtual/SendSchedule.h"
+
+#include <gtest/gtest.h>
+
+using namespace canvirtual;
+
+namespace {
+
+PendingFrame delayed(std::uint32_t id, BusTime delay)
+{
+    BusFrame frame;
+    frame.id = id;
+    return makePending(frame, delay);
+}
+
+TEST(SendSchedule, TakesFramesOnlyWhileOpen)
+{
+    SendSchedule schedule;
+    EXPECT_FALSE(schedule.add(delayed(1, 0)));
+    schedule.begin();
+    EXPECT_TRUE(schedule.isOpen());
+    EXPECT_TRUE(schedule.add(delayed(1, 0)));
+    schedule.end();
+    EXPECT_FALSE(schedule.add(delayed(2, 0)));
+    EXPECT_EQ(schedule.left(), 1U);
+    EXPECT_TRUE(schedule.head() == nullptr) << "not started";
+}
+
+TEST(SendSchedule, EqualDelaysKeepTheirOrder)
+{
+    SendSchedule schedule;
+    schedule.begin();
+    schedule.add(delayed(1, 20));
+    schedule.add(delayed(2, 10));
+    schedule.add(delayed(3, 20));
+    schedule.start(1'000);
+    for (const std::uint32_t id : {2U, 1U, 3U}) {
+        const PendingFrame* head = schedule.head();
+        ASSERT_TRUE(head != nullptr);
+        EXPECT_EQ(head->frame.id, id);
+        EXPECT_EQ(head->readyAt, id == 2 ? 1'010 : 1'020);
+        schedule.pop();
+    }
+    EXPECT_TRUE(schedule.head() == nullptr);
+    EXPECT_EQ(schedule.left(), 0U);
+}
+
+TEST(SendSchedule, FullMemoryRefuses)
+{
+    SendSchedule schedule;
+    schedule.begin();
+    for (std::size_t count = 0; count < SendSchedule::capacity; ++count) {
+        ASSERT_TRUE(schedule.add(delayed(1, 0)));
+    }
+    EXPECT_FALSE(schedule.add(delayed(1, 0)));
+    EXPECT_EQ(schedule.left(), SendSchedule::capacity);
+}
+
+TEST(SendSchedule, StartOfAnEmptyMemoryDoesNothing)
+{
+    SendSchedule schedule;
+    schedule.start(5);
+    EXPECT_TRUE(schedule.head() == nullptr);
+}
+
+} // namespace
