@@ -34,6 +34,7 @@ void WidgetStatus::set(const zul::DeviceStatusEntry& entry)
     const QString text = zul::fromLatin1(entry.value);
     if (m_value->text() != text) {
         m_value->setText(text);
+        m_value->setCursorPosition(0); // a long text shows its beginning
     }
     QPalette colors = m_value->palette();
     const QColor color(zul::fromLatin1(entry.color));

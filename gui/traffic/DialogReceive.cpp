@@ -26,6 +26,7 @@ namespace {
 
 constexpr int minimumWidthPixels = 350;
 constexpr int clearButtonHeight = 22;
+constexpr int margin = 3;
 constexpr QSize firstSize(550, 300);
 
 } // namespace
@@ -65,6 +66,8 @@ void DialogReceive::build()
     bottom->addStretch();
     bottom->addWidget(clear);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin);
     layout->addWidget(m_header);
     layout->addWidget(m_tree, 1);
     layout->addLayout(bottom);

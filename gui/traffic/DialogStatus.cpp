@@ -18,6 +18,7 @@ namespace gui {
 namespace {
 
 constexpr int rowSpacing = 3; // pixels
+constexpr int margin = 3;
 constexpr int timeoutMs = 200;
 constexpr QSize firstSize(200, 400);
 
@@ -52,6 +53,8 @@ void DialogStatus::buildRows()
     area->setWidgetResizable(true);
     area->setWidget(content);
     auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(margin, margin, margin, margin);
+    outer->setSpacing(margin);
     outer->addWidget(area);
 }
 

@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <algorithm>
 
 namespace gui {
 
@@ -13,14 +14,20 @@ namespace {
 struct Column
 {
     const char* header;
-    int width; // pixels; the last column takes the rest
+    int width;           // pixels; the last column takes the rest
+    const char* longest; // a text that the column shows whole, also in a wide font
 };
 
-constexpr std::array<Column, receiveColumnCount> columns{
-    {{"Msgs", 100}, {"Time", 100}, {"Id", 100}, {"Len", 50}, {"Message", 0}}};
+constexpr std::array<Column, receiveColumnCount> columns{{{"Msgs", 100, ""},
+                                                          {"Time", 100, "0000000000.0000"},
+                                                          {"Id", 100, "EB 0x1FFFFFFF"},
+                                                          {"Len", 50, "D64"},
+                                                          {"Message", 0, ""}}};
 
 constexpr QSize stateIconSize(16, 14);
 constexpr int boldWeight = 75;
+constexpr int cellMargins = 8;
+constexpr int payloadFontPixels = 11;
 
 constexpr int columnOf(ReceiveColumn column)
 {
@@ -45,6 +52,7 @@ ReceiveTree::ReceiveTree(QWidget* parent)
 {
     m_payloadFont.setStyleHint(QFont::TypeWriter);
     m_payloadFont.setWeight(boldWeight);
+    m_payloadFont.setPixelSize(payloadFontPixels);
     setRootIsDecorated(true);
     setUniformRowHeights(true);
     setIconSize(stateIconSize);
@@ -57,11 +65,15 @@ ReceiveTree::ReceiveTree(QWidget* parent)
 void ReceiveTree::buildColumns()
 {
     setColumnCount(receiveColumnCount);
+    QFont bold = font();
+    bold.setWeight(boldWeight);
+    const QFontMetrics metrics(bold);
     for (int i = 0; i < receiveColumnCount; ++i) {
         const Column& column = columns[static_cast<std::size_t>(i)];
         headerItem()->setText(i, QLatin1String(column.header));
         if (column.width > 0) {
-            setColumnWidth(i, column.width);
+            const int needed = metrics.horizontalAdvance(QLatin1String(column.longest));
+            setColumnWidth(i, std::max(column.width, needed + cellMargins));
         }
     }
 }
