@@ -2,6 +2,7 @@
 
 #include "traffic/MessageModes.h"
 
+#include <algorithm>
 #include <cstdio>
 
 using zul::MessageCan;
@@ -48,6 +49,21 @@ void receiveRowText(const ReceiveRow& row, int numberType, ReceiveRowText& text)
     std::snprintf(text.length, sizeof text.length, "%c%d", type,
                   static_cast<int>(frame.byteCount()));
     writeLines(frame, numberType, text);
+}
+
+bool isPayloadLess(const MessageCan& left, const MessageCan& right)
+{
+    const auto countOf = [](const MessageCan& frame) {
+        constexpr auto most = static_cast<std::uint32_t>(zul::MessageData::size);
+        return static_cast<std::int32_t>(std::min(frame.byteCount(), most));
+    };
+    const std::int32_t common = std::min(countOf(left), countOf(right));
+    for (std::int32_t i = 0; i < common; ++i) {
+        if (left.msg()[i] != right.msg()[i]) {
+            return left.msg()[i] < right.msg()[i];
+        }
+    }
+    return countOf(left) < countOf(right);
 }
 
 bool isReceiveLineShown(int line, std::uint32_t byteCount)

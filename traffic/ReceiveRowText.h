@@ -30,5 +30,9 @@ struct ReceiveRowText
 /// The texts of `row` in the display mode CAN; `numberType` 1 is hexadecimal.
 void receiveRowText(const ReceiveRow& row, int numberType, ReceiveRowText& text);
 
+/// Whether the payload of `left` comes before that of `right`, byte by byte; of two that agree as
+/// far as they go, the shorter one.
+bool isPayloadLess(const zul::MessageCan& left, const zul::MessageCan& right);
+
 /// Whether the line (1 to 3) below a row's first line is shown for that many bytes.
 bool isReceiveLineShown(int line, std::uint32_t byteCount);

@@ -74,6 +74,7 @@ void DialogInterfaceProperties::setInterface(comm::CanInterface* interface)
 {
     m_interface = interface;
     m_device = interface != nullptr ? interface->device() : nullptr;
+    m_changed = false;
     rebuildEditors();
     fillDevices();
     refreshValues();
@@ -91,6 +92,7 @@ void DialogInterfaceProperties::slotChangePage(QListWidgetItem* item)
         return;
     }
     m_lastItem = item;
+    m_changed = true;
     const std::string moduleName = zul::toLatin1(item->data(Qt::UserRole).toString());
     if (!m_interface->selectDevice(moduleName)) {
         zul::print("Error selecting device <%s>\n", moduleName.c_str());
@@ -105,6 +107,7 @@ void DialogInterfaceProperties::slotValueChanged(const std::string& key, const s
     if (m_device == nullptr) {
         return;
     }
+    m_changed = true;
     if (key == interfaceNameKey) {
         m_interface->setName(zul::fromLatin1(value));
     }
@@ -116,7 +119,9 @@ void DialogInterfaceProperties::slotValueChanged(const std::string& key, const s
 void DialogInterfaceProperties::slotClose()
 {
     if (m_device != nullptr) {
-        m_interface->setName(zul::fromLatin1(m_device->getStringProp(interfaceNameKey)));
+        const QString name = zul::fromLatin1(m_device->getStringProp(interfaceNameKey));
+        m_changed = m_changed || name != m_interface->name();
+        m_interface->setName(name);
     }
     accept();
 }
@@ -150,8 +155,8 @@ void DialogInterfaceProperties::rebuildEditors()
     grid->setColumnStretch(1, 2);
     area->setWidget(content);
     // Wide enough for every editor, so that only the height may need scrolling.
-    area->setMinimumWidth(content->minimumSizeHint().width()
-                          + area->verticalScrollBar()->sizeHint().width());
+    area->setMinimumWidth(content->minimumSizeHint().width() +
+                          area->verticalScrollBar()->sizeHint().width());
     m_page = area;
     m_pageLayout->addWidget(m_page);
 }

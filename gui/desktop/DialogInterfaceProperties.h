@@ -6,7 +6,6 @@
 #include <string>
 
 class Device;
-class QGroupBox;
 class QListWidget;
 class QListWidgetItem;
 class QVBoxLayout;
@@ -29,6 +28,8 @@ public:
 
     /// Shows another interface, which must be closed, or none.
     void setInterface(comm::CanInterface* interface);
+    /// Whether anything was changed since `setInterface`.
+    bool hasChanged() const { return m_changed; }
 
 private slots:
     void slotChangePage(QListWidgetItem* current, QListWidgetItem* previous);
@@ -47,6 +48,7 @@ private:
     comm::CanInterface* m_interface = nullptr;
     Device* m_device = nullptr;
     bool m_refreshing = false;
+    bool m_changed = false;
 
     QListWidget* m_devices = nullptr;
     QVBoxLayout* m_pageLayout = nullptr;

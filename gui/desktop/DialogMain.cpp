@@ -76,6 +76,7 @@ DialogMain::~DialogMain()
     GuiRequests::setHandler(nullptr);
     m_desk->deleteAll();
     Kernel::instance().setProject(nullptr);
+    Kernel::instance().setMainWindow(nullptr);
 }
 
 void DialogMain::setEndProcess(std::function<void()> endProcess)
@@ -88,6 +89,8 @@ void DialogMain::buildMdiArea()
     m_mdiArea->setBackground(QBrush(QPixmap(QStringLiteral(":/background.svg"))));
     m_mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // A maximized window that closes would hand its size to the next one.
+    m_mdiArea->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     setCentralWidget(m_mdiArea);
 }
 
@@ -124,6 +127,17 @@ void DialogMain::buildMenus()
     connect(m_windowMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuWindowAbout);
     slotMenuFileAbout();
     slotMenuWindowAbout();
+    // A disabled action has no shortcut: Ctrl+F4 works whether or not the menu was opened before.
+    connect(m_mdiArea, &QMdiArea::subWindowActivated, this, &DialogMain::enableWindowActions);
+}
+
+void DialogMain::enableWindowActions()
+{
+    const bool hasWindows = !m_mdiArea->subWindowList().isEmpty();
+    for (const MainAction id : {MainAction::Tile, MainAction::Cascade, MainAction::CloseWindow,
+                                MainAction::CloseAllWindows}) {
+        m_actions[id]->setEnabled(hasWindows);
+    }
 }
 
 void DialogMain::buildToolBar()
@@ -156,6 +170,7 @@ void DialogMain::buildDocks()
             &DialogMain::slotObjectDelete);
     connect(m_projectPanel, &DialogProject::signalRenameObject, this,
             &DialogMain::slotObjectRename);
+    connect(m_projectPanel, &DialogProject::signalCloseWindow, m_desk, &WindowDesk::forceClose);
     m_projectPanel->setProject(&m_project);
 
     m_tasksPanel = new DialogTasks(this);
@@ -191,7 +206,15 @@ void DialogMain::updateTitle()
 void DialogMain::refreshPanels()
 {
     m_projectPanel->setProject(&m_project);
+}
+
+void DialogMain::showReplacedProject()
+{
+    openProjectWindows();
+    refreshPanels();
     Kernel::instance().notify(Kernel::interfacesAspect);
+    updateTitle();
+    m_heartbeat.start(tickMs);
 }
 
 void DialogMain::storeGeometry()
@@ -285,6 +308,9 @@ void DialogMain::slotWindowSelect(int type)
 void DialogMain::slotObjectSelect(int id)
 {
     if (QMdiSubWindow* subWindow = m_desk->find(id)) {
+        if (subWindow->isMinimized()) {
+            subWindow->showNormal();
+        }
         m_mdiArea->setActiveSubWindow(subWindow);
         subWindow->setFocus();
     } else if (Object* object = m_project.object(id)) {
@@ -351,10 +377,7 @@ void DialogMain::slotMenuWindowAbout()
         connect(action, &QAction::triggered, window,
                 [this, window] { slotSetActiveSubWindow(window); });
     }
-    for (const MainAction id : {MainAction::Tile, MainAction::Cascade, MainAction::CloseWindow,
-                                MainAction::CloseAllWindows}) {
-        m_actions[id]->setEnabled(!windows.isEmpty());
-    }
+    enableWindowActions();
 }
 
 void DialogMain::slotDeleteDialog(int)

@@ -78,7 +78,9 @@ private:
     void applyFirstGeometry();
     void connectDesk();
     void updateTitle();
+    void enableWindowActions();
     void refreshPanels();
+    void showReplacedProject();
     void storeGeometry();
     void openProjectWindows();
 

@@ -1,6 +1,7 @@
 #include "core/Kernel.h"
 #include "core/SettingsStore.h"
 #include "gui/desktop/DialogMain.h"
+#include "gui/desktop/DialogProject.h"
 #include "gui/desktop/WindowDesk.h"
 #include "gui/frame/FileDialogs.h"
 #include "gui/frame/MessageBoxes.h"
@@ -55,10 +56,9 @@ void DialogMain::newProject()
     }
     m_heartbeat.stop();
     m_desk->forceCloseAll();
+    m_projectPanel->setProject(nullptr);
     m_project.clear();
-    refreshPanels();
-    updateTitle();
-    m_heartbeat.start(tickMs);
+    showReplacedProject();
 }
 
 void DialogMain::openProject()
@@ -70,6 +70,7 @@ void DialogMain::openProject()
     const QString path = FileDialogs::openFile(this, QStringLiteral("Open Project"), fileFilter);
     if (!path.isEmpty()) {
         m_desk->forceCloseAll();
+        m_projectPanel->setProject(nullptr); // it shows objects that are about to go
         const bool loaded = m_project.load(path);
         m_recentFiles.add(path);
         if (!loaded) {
@@ -78,10 +79,7 @@ void DialogMain::openProject()
     }
     // Deliberate: also after a cancelled dialog, which brings the windows back as they were marked
     // in the file.
-    openProjectWindows();
-    refreshPanels();
-    updateTitle();
-    m_heartbeat.start(tickMs);
+    showReplacedProject();
 }
 
 void DialogMain::saveProject()
@@ -100,7 +98,8 @@ void DialogMain::saveProject()
 void DialogMain::saveProjectAs()
 {
     storeGeometry();
-    QString path = FileDialogs::saveFile(this, QStringLiteral("Save Project"), fileFilter);
+    QString path =
+        FileDialogs::saveFile(this, QStringLiteral("Save Project"), fileFilter, suffix.mid(1));
     if (path.isEmpty()) {
         return;
     }
@@ -154,11 +153,9 @@ void DialogMain::slotMenuRecent(QAction* action)
     const QString path = action->data().toString();
     m_heartbeat.stop();
     m_desk->deleteAll();
+    m_projectPanel->setProject(nullptr);
     loadProject(path);
-    openProjectWindows();
-    refreshPanels();
-    updateTitle();
-    m_heartbeat.start(tickMs);
+    showReplacedProject();
 }
 
 void DialogMain::loadProject(const QString& path)

@@ -63,7 +63,7 @@ DialogProject::DialogProject(QWidget* parent)
     layout->addWidget(m_tree, 1);
     m_menu = new QMenu(this);
     connectControls();
-    enableButtons(false);
+    enableButtons();
     m_loadTimer->start(loadPeriodMs);
 }
 
@@ -100,6 +100,8 @@ void DialogProject::buildTable()
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // The keyboard would move the highlight away from the row that the buttons act on.
+    m_table->setFocusPolicy(Qt::NoFocus);
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setMinimumSectionSize(rowHeight);
@@ -120,6 +122,7 @@ void DialogProject::buildTree()
     m_tree->setObjectName(QStringLiteral("objects"));
     m_tree->setHeaderLabel(QStringLiteral("Objects"));
     m_tree->setEditTriggers(QAbstractItemView::EditKeyPressed);
+    m_tree->setItemsExpandable(false); // groups always stand open
 }
 
 void DialogProject::connectControls()
@@ -182,6 +185,8 @@ void DialogProject::rebuildTable()
     m_table->clearContents();
     m_table->setRowCount(0);
     if (m_project == nullptr) {
+        m_selectedRow = noRow;
+        enableButtons();
         return;
     }
     m_table->setRowCount(static_cast<int>(m_project->interfaces().size()));
@@ -192,6 +197,12 @@ void DialogProject::rebuildTable()
         }
     }
     refreshStates();
+    if (interfaceOf(m_selectedRow) != nullptr) {
+        m_table->selectRow(m_selectedRow);
+    } else {
+        m_selectedRow = noRow;
+    }
+    enableButtons();
 }
 
 void DialogProject::addTableRow(int row, comm::CanInterface& interface)
@@ -220,6 +231,7 @@ void DialogProject::refreshStates()
         state->setFont(cellFont(font(), true));
         state->setForeground(look.color);
     }
+    enableButtons();
 }
 
 comm::CanInterface* DialogProject::interfaceOf(int row) const
@@ -228,8 +240,10 @@ comm::CanInterface* DialogProject::interfaceOf(int row) const
     return found != m_rows.end() ? found->second : nullptr;
 }
 
-void DialogProject::enableButtons(bool canChange)
+void DialogProject::enableButtons()
 {
+    comm::CanInterface* interface = interfaceOf(m_selectedRow);
+    const bool canChange = interface != nullptr && isClosed(*interface);
     m_delete->setEnabled(canChange);
     m_configure->setEnabled(canChange);
 }
@@ -266,9 +280,11 @@ void DialogProject::slotDeleteInterface()
     if (interface == nullptr) {
         return;
     }
-    emit signalDeleteObject(interface->id());
+    const int id = interface->id();
+    emit signalCloseWindow(id);
+    m_project->deleteObject(id);
     m_selectedRow = noRow;
-    enableButtons(false);
+    rebuildTable();
     Kernel::instance().notify(Kernel::interfacesAspect);
 }
 
@@ -285,12 +301,11 @@ void DialogProject::slotInterfaceClicked(int row, int column)
     if (interface == nullptr) {
         return;
     }
+    m_selectedRow = row;
     if (column == connectColumn) {
         toggleConnection(*interface);
-        refreshStates();
     }
-    enableButtons(isClosed(*interface));
-    m_selectedRow = row;
+    refreshStates();
 }
 
 void DialogProject::slotInterfaceDoubleClicked(int row, int column)
@@ -299,8 +314,8 @@ void DialogProject::slotInterfaceDoubleClicked(int row, int column)
     if (interface == nullptr) {
         return;
     }
-    m_configure->setEnabled(isClosed(*interface));
     m_selectedRow = row;
+    enableButtons();
     if (column == nameColumn) {
         configure(*interface);
     }
@@ -375,8 +390,10 @@ void DialogProject::configure(comm::CanInterface& interface)
     }
     m_properties->setInterface(&interface);
     m_properties->exec();
+    if (m_properties->hasChanged()) {
+        m_project->markEdited();
+    }
     m_properties->setInterface(nullptr);
-    m_project->markEdited();
     rebuildTable();
     Kernel::instance().notify(Kernel::interfacesAspect);
 }

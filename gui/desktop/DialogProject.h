@@ -5,7 +5,6 @@
 
 #include <map>
 
-class Object;
 class Project;
 class QMenu;
 class QTableWidget;
@@ -39,6 +38,8 @@ signals:
     void signalSelectObject(int id);
     void signalRenameObject(int id, const QString& name);
     void signalDeleteObject(int id);
+    /// The object's window, if it has one, is to close, since the object is about to go.
+    void signalCloseWindow(int id);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -70,7 +71,7 @@ private:
     void refreshStates();
     void toggleConnection(comm::CanInterface& interface);
     void configure(comm::CanInterface& interface);
-    void enableButtons(bool canChange);
+    void enableButtons();
     comm::CanInterface* interfaceOf(int row) const;
 
     std::map<int, comm::CanInterface*> m_rows;

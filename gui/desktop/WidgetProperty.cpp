@@ -104,6 +104,11 @@ void WidgetProperty::addChoices(QHBoxLayout& row, bool isEditable)
 {
     m_choices = new QComboBox(this);
     m_choices->setEditable(isEditable);
+    if (isEditable) {
+        // What is typed stays as it was typed, and is no new choice.
+        m_choices->setInsertPolicy(QComboBox::NoInsert);
+        m_choices->setCompleter(nullptr);
+    }
     for (const PropertyChoice& choice : m_property.choices) {
         m_choices->addItem(zul::fromLatin1(choice.text), choice.value);
     }
@@ -253,7 +258,7 @@ void WidgetProperty::slotText(const QString& text)
 void WidgetProperty::slotIndex(int index)
 {
     if (!m_refreshing) {
-        change(std::to_string(m_choices->itemData(index).toInt()));
+        changeNumber(m_choices->itemData(index).toInt());
     }
 }
 
@@ -263,13 +268,14 @@ void WidgetProperty::slotBtr()
     if (m_refreshing || !(m_btr0->isModified() || m_btr1->isModified())) {
         return;
     }
-    // Deliberate: BTR1 is the high byte here, while showBtr() fills BTR0 with the high byte; after
-    // typing, the two fields stand exchanged. Projects keep values that were entered this way.
+    // Deliberate: BTR1 is the high byte here, while showBtr() fills BTR0 with the high byte; once
+    // the value is shown again, the two fields stand exchanged. Projects keep values that were
+    // entered this way.
     const std::uint32_t value = ((fromHexadecimal(m_btr1->text()) & byteMask) << byteBits) |
                                 (fromHexadecimal(m_btr0->text()) & byteMask);
     m_btr0->setModified(false);
     m_btr1->setModified(false);
-    change(std::to_string(value));
+    changeNumber(static_cast<int>(value));
 }
 
 void WidgetProperty::slotNBTPPredef(int index)
@@ -351,10 +357,20 @@ void WidgetProperty::spinRegister()
         values.push_back(spin->value());
     }
     const std::uint32_t value = gui::composeRegister(*gui::registerLayout(m_property.kind), values);
-    const std::string text = registerText(value);
-    change(text);
-    m_register->setText(zul::fromLatin1(text));
-    selectChoice(value);
+    change(registerText(value));
+    // Not `value`: the device may have made something else of it.
+    m_register->setText(zul::fromLatin1(m_value));
+    selectChoice(zul::numberWithPrefix(zul::fromLatin1(m_value)));
+}
+
+void WidgetProperty::changeNumber(int value)
+{
+    m_value = std::to_string(value);
+    if (m_property.kind == PropertyKind::Btr) {
+        const QScopedValueRollback<bool> guard(m_refreshing, true);
+        showBtr();
+    }
+    emit signalChanged(m_property.key, m_value);
 }
 
 void WidgetProperty::change(const std::string& value)

@@ -61,6 +61,7 @@ private:
     void typeRegister();
     void spinRegister();
     void change(const std::string& value);
+    void changeNumber(int value);
 
     DeviceProperty m_property;
     std::string m_value;

@@ -42,6 +42,7 @@ DialogBase* WindowDesk::openInPlace(Object& object)
     DialogBase* dialog = open(object);
     if (dialog != nullptr) {
         QMdiSubWindow* subWindow = find(object.id());
+        subWindow->showNormal();
         subWindow->resize(object.width(), object.height());
         subWindow->move(object.xPos(), object.yPos());
         dialog->setName(object.name());
@@ -94,8 +95,10 @@ void WindowDesk::deleteAll()
 void WindowDesk::storeGeometry()
 {
     for (const QMdiSubWindow* subWindow : m_area.subWindowList()) {
+        // A maximized or minimized window keeps the geometry that it goes back to.
         const DialogBase* dialog = dialogOf(*subWindow);
-        if (dialog != nullptr && dialog->object() != nullptr) {
+        if (dialog != nullptr && dialog->object() != nullptr && !subWindow->isMaximized() &&
+            !subWindow->isMinimized()) {
             dialog->object()->setPosition(subWindow->x(), subWindow->y());
             dialog->object()->setSize(subWindow->width(), subWindow->height());
         }

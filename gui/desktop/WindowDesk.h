@@ -2,8 +2,6 @@
 
 #include <QObject>
 
-#include <vector>
-
 class Message;
 class Object;
 class Project;

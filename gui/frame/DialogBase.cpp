@@ -95,6 +95,7 @@ void DialogBase::closeEvent(QCloseEvent* event)
     closeByPolicy(policy, event);
     if (event->isAccepted()) {
         detach();
+        setObject(nullptr);
     }
 }
 
@@ -126,7 +127,6 @@ void DialogBase::detach()
     if (m_object != nullptr && m_object->dialog() == this) {
         m_object->setDialog(nullptr);
     }
-    m_object = nullptr;
 }
 
 } // namespace gui

@@ -42,10 +42,17 @@ QString FileDialogs::openFile(QWidget* parent, const QString& title, const QStri
                   [&] { return QFileDialog::getOpenFileName(parent, title, QString(), filter); });
 }
 
-QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QString& filter)
+QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QString& filter,
+                              const QString& defaultSuffix)
 {
-    return choose(title, filter,
-                  [&] { return QFileDialog::getSaveFileName(parent, title, QString(), filter); });
+    return choose(title, filter, [&] {
+        // The static chooser knows no suffix: it would ask about one name, and another be written.
+        QFileDialog dialog(parent, title, QString(), filter);
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setDefaultSuffix(defaultSuffix);
+        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    });
 }
 
 void FileDialogs::setNextFileName(const QString& path)

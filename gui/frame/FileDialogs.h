@@ -12,8 +12,9 @@ class FileDialogs
 {
 public:
     static QString openFile(QWidget* parent, const QString& title, const QString& filter);
-    /// Asks before an existing file is chosen.
-    static QString saveFile(QWidget* parent, const QString& title, const QString& filter);
+    /// A name without a point gets `defaultSuffix`. Asks before an existing file is chosen.
+    static QString saveFile(QWidget* parent, const QString& title, const QString& filter,
+                            const QString& defaultSuffix);
 
     /// The next chooser shows nothing and returns this; for tests.
     static void setNextFileName(const QString& path);

@@ -86,7 +86,7 @@ private:
     bool m_filterOn = false;
     gui::ActivityCounter m_input;
     gui::ActivityCounter m_output;
-    bool m_paletteDirty = true;
+    bool m_paletteDirty = true; // so that the counters start in grey
     int m_numberType = 0;
     QString m_inputInterface;
     QString m_outputInterface;

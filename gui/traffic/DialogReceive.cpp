@@ -27,7 +27,8 @@ namespace {
 constexpr int minimumWidthPixels = 350;
 constexpr int clearButtonHeight = 22;
 constexpr int margin = 3;
-constexpr QSize firstSize(550, 300);
+constexpr int firstWidth = 550;
+constexpr int firstHeight = 300;
 
 } // namespace
 
@@ -42,7 +43,15 @@ DialogReceive::DialogReceive(ObjectReceive* object, QWidget* parent)
     m_columnSet = canColumnSet;
 }
 
-DialogReceive::~DialogReceive() = default;
+DialogReceive::~DialogReceive()
+{
+    m_tree->clearRows(); // its items refer to the table, which goes before the child widgets do
+}
+
+QSize DialogReceive::sizeHint() const
+{
+    return {firstWidth, firstHeight};
+}
 
 void DialogReceive::build()
 {
@@ -72,7 +81,7 @@ void DialogReceive::build()
     layout->addWidget(m_tree, 1);
     layout->addLayout(bottom);
     setMinimumWidth(minimumWidthPixels);
-    resize(firstSize);
+    resize(firstWidth, firstHeight);
 }
 
 void DialogReceive::connectControls()

@@ -30,6 +30,9 @@ public:
     DialogReceive(ObjectReceive* object, QWidget* parent);
     ~DialogReceive() override;
 
+    /// The size that a new window gets in the desktop.
+    QSize sizeHint() const override;
+
     void setObject(Object* object) override;
     void receive(MessageContainer& batch) override;
     void updateDialog() override;

@@ -20,7 +20,8 @@ namespace {
 constexpr int rowSpacing = 3; // pixels
 constexpr int margin = 3;
 constexpr int timeoutMs = 200;
-constexpr QSize firstSize(200, 400);
+constexpr int firstWidth = 200;
+constexpr int firstHeight = 400;
 
 } // namespace
 
@@ -32,10 +33,15 @@ DialogStatus::DialogStatus(Object* object, QWidget* parent) : DialogBase(object,
     layout()->addWidget(clear);
     connect(clear, &QwtPushButton::clicked, this, &DialogStatus::slotClear);
     QTimer::singleShot(timeoutMs, this, &DialogStatus::slotTimeout);
-    resize(firstSize);
+    resize(firstWidth, firstHeight);
 }
 
 DialogStatus::~DialogStatus() = default;
+
+QSize DialogStatus::sizeHint() const
+{
+    return {firstWidth, firstHeight};
+}
 
 void DialogStatus::buildRows()
 {

@@ -21,6 +21,9 @@ public:
     DialogStatus(Object* object, QWidget* parent);
     ~DialogStatus() override;
 
+    /// The size that a new window gets in the desktop.
+    QSize sizeHint() const override;
+
     /// Shows the last status report of the batch; each replaces the one before.
     void receive(MessageContainer& batch) override;
     /// Hands the batch to the interface itself, which sends it.

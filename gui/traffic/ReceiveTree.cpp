@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
+
 #include <algorithm>
 
 namespace gui {
@@ -54,6 +55,7 @@ ReceiveTree::ReceiveTree(QWidget* parent)
     m_payloadFont.setWeight(boldWeight);
     m_payloadFont.setPixelSize(payloadFontPixels);
     setRootIsDecorated(true);
+    setExpandsOnDoubleClick(false); // a double click asks for a dial
     setUniformRowHeights(true);
     setIconSize(stateIconSize);
     buildColumns();
@@ -99,10 +101,13 @@ void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType)
                       numberType == 0 ? QString::asprintf("%d", static_cast<int>(id))
                                       : QString::asprintf("0X%X", id));
     for (std::size_t line = 1; line < itemCount; ++line) {
-        items[line] = new QTreeWidgetItem(items[0]);
+        items[line] = new ReceiveLineItem(items[0], static_cast<int>(line));
         items[line]->setFont(columnOf(ReceiveColumn::Message), m_payloadFont);
     }
     addTopLevelItem(items[0]);
+    for (std::size_t line = 1; line < itemCount; ++line) {
+        items[line]->setHidden(true); // until the first painting knows the byte count
+    }
     m_items.push_back(items);
 }
 
@@ -161,14 +166,11 @@ void ReceiveTree::paintLines(ReceiveRow& row, const Items& items) const
     for (std::size_t line = 1; line < itemCount; ++line) {
         items[line]->setHidden(!isReceiveLineShown(static_cast<int>(line), byteCount));
     }
-    // Without this, a row whose lines are all hidden would still offer to unfold.
-    items[0]->setChildIndicatorPolicy(isReceiveLineShown(1, byteCount)
-                                          ? QTreeWidgetItem::ShowIndicator
-                                          : QTreeWidgetItem::DontShowIndicator);
 }
 
 void ReceiveTree::paintActivity(ReceiveRow& row, const Items& items) const
 {
+    // A row that turned silent before its first painting has never been shown either way.
     if (row.active == row.shownActive && items[0]->background(0).style() != Qt::NoBrush) {
         return;
     }

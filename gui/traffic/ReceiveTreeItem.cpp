@@ -2,6 +2,7 @@
 
 #include "traffic/ReceiveRowText.h"
 
+#include <QHeaderView>
 #include <QTreeWidget>
 
 namespace gui {
@@ -28,9 +29,26 @@ bool ReceiveTreeItem::operator<(const QTreeWidgetItem& other) const
     case ReceiveColumn::Length:
         return left.msg.byteCount() < right.msg.byteCount();
     case ReceiveColumn::Message:
-        break;
+        return isPayloadLess(left.msg, right.msg);
     }
     return QTreeWidgetItem::operator<(other);
+}
+
+ReceiveLineItem::ReceiveLineItem(QTreeWidgetItem* row, int line)
+    : QTreeWidgetItem(row), m_line(line)
+{
+}
+
+ReceiveLineItem::~ReceiveLineItem() = default;
+
+bool ReceiveLineItem::operator<(const QTreeWidgetItem& other) const
+{
+    const auto* otherLine = dynamic_cast<const ReceiveLineItem*>(&other);
+    if (otherLine == nullptr || treeWidget() == nullptr) {
+        return QTreeWidgetItem::operator<(other);
+    }
+    const bool isDescending = treeWidget()->header()->sortIndicatorOrder() == Qt::DescendingOrder;
+    return isDescending ? otherLine->m_line < m_line : m_line < otherLine->m_line;
 }
 
 } // namespace gui

@@ -22,4 +22,18 @@ private:
     int m_row;
 };
 
+/// A line below a row's first one. However the tree is sorted, the lines keep their order.
+class ReceiveLineItem : public QTreeWidgetItem
+{
+public:
+    /// `line` is 1 to 3.
+    ReceiveLineItem(QTreeWidgetItem* row, int line);
+    ~ReceiveLineItem() override;
+
+    bool operator<(const QTreeWidgetItem& other) const override;
+
+private:
+    int m_line;
+};
+
 } // namespace gui
