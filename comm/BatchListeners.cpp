@@ -22,7 +22,8 @@ void BatchListeners::clear()
 
 void BatchListeners::notify(MessageContainer& batch) const
 {
-    for (const Listener& listener : m_listeners) {
+    const std::vector<Listener> listeners = m_listeners; // one may add another
+    for (const Listener& listener : listeners) {
         listener(batch);
     }
 }

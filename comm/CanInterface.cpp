@@ -9,8 +9,6 @@
 #include "message/MessageContainer.h"
 #include "project/WindowMakers.h"
 
-#include <QMutexLocker>
-
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -28,7 +26,7 @@ const QString valueAttribute = QStringLiteral("value");
 constexpr const char* interfaceNameKey = "InterfaceName";
 
 constexpr std::int32_t baudrateWithoutDevice = 1'000'000;
-constexpr unsigned long destructorWaitMs = 100;
+constexpr unsigned long readerWaitMs = 100;
 
 // These modules count their bus traffic themselves.
 constexpr std::array statusDrivenModules{"libCanGRV614UDP", "libCanGRV614UDP_FD"};
@@ -46,20 +44,18 @@ DeviceStatus statusOf(Device& device)
 
 } // namespace
 
-CanInterface::CanInterface() : m_estimator(zul::wallClock()), m_reader(*this)
+CanInterface::CanInterface() : m_estimator(zul::wallClock())
 {
     setSize(defaultExtent, defaultExtent);
 }
 
 CanInterface::~CanInterface()
 {
-    m_reader.stopReading();
-    zul::print("Stop Thread\n");
-    if (!m_reader.wait(destructorWaitMs)) {
-        // A device that blocks in recvMessage: destroying a running thread would end the process.
-        m_reader.terminate();
-        m_reader.wait();
+    if (m_reader != nullptr) {
+        m_reader->stopReading();
     }
+    zul::print("Stop Thread\n");
+    retireReader();
 }
 
 std::unique_ptr<Object> CanInterface::create()
@@ -82,14 +78,14 @@ void CanInterface::writeXml(QDomDocument& document, QDomElement& parent)
     const ObjectTypeTexts* texts = findObjectType(ObjectType::CanInterface);
     QDomElement element = addElement(document, parent, QString::fromLatin1(texts->tag));
     writeWindow(document, element);
-    if (m_device == nullptr) {
+    if (device() == nullptr) {
         return;
     }
     const DeviceInfo info =
-        zul::guardedCall("info", DeviceInfo(), [this] { return m_device->info(); });
-    QDomElement device = addElement(document, element, deviceTag);
-    writeString(document, device, idAttribute, info.moduleName);
-    for (const auto& [key, value] : *m_device->properties()) {
+        zul::guardedCall("info", DeviceInfo(), [this] { return device()->info(); });
+    QDomElement deviceElement = addElement(document, element, deviceTag);
+    writeString(document, deviceElement, idAttribute, info.moduleName);
+    for (const auto& [key, value] : *device()->properties()) {
         QDomElement property = addElement(document, element, propertyTag);
         writeString(document, property, idAttribute, key);
         writeString(document, property, valueAttribute, value);
@@ -112,7 +108,7 @@ void CanInterface::readElement(const QDomElement& element)
         readWindow(element);
     } else if (tag == deviceTag) {
         selectDevice(readStdString(element.attributes(), idAttribute, std::string()));
-    } else if (tag == propertyTag && m_device != nullptr) {
+    } else if (tag == propertyTag && device() != nullptr) {
         readProperty(element);
     }
 }
@@ -122,7 +118,7 @@ void CanInterface::readProperty(const QDomElement& element)
     const QDomNamedNodeMap attributes = element.attributes();
     const std::string key = readStdString(attributes, idAttribute, std::string());
     const std::string value = readStdString(attributes, valueAttribute, std::string());
-    zul::guardedCall("setProperty", [&] { m_device->setProperty(key, value); });
+    zul::guardedCall("setProperty", [&] { device()->setProperty(key, value); });
     if (key == interfaceNameKey) {
         setName(zul::fromLatin1(value));
     }
@@ -130,7 +126,7 @@ void CanInterface::readProperty(const QDomElement& element)
 
 void CanInterface::receive(MessageContainer& batch)
 {
-    if (!m_connected || m_device == nullptr) {
+    if (!isConnected() || device() == nullptr) {
         return;
     }
     if (batch.srcDest() != allInterfaces && batch.srcDest() != zul::toLatin1(name())) {
@@ -139,85 +135,78 @@ void CanInterface::receive(MessageContainer& batch)
     for (const auto& message : batch.messages()) {
         if (message) {
             zul::guardedCall("sendMessage", false,
-                             [&] { return m_device->sendMessage(message.get()); });
+                             [&] { return device()->sendMessage(message.get()); });
         }
     }
 }
 
 bool CanInterface::selectDevice(const std::string& moduleName)
 {
-    if (m_device != nullptr) {
-        Device* old = m_device;
-        {
-            // The reader may be in its last round.
-            const QMutexLocker lock(&m_mutex);
-            m_device = nullptr;
-        }
+    if (Device* old = device()) {
+        // First out of the reader's sight, which may be in its last round.
+        m_link->setDevice(nullptr);
         zul::guardedCall("close", false, [old] { return old->close(); });
-        zul::guardedCall("destructor", [old] { delete old; });
+        delete old;
     }
-    Device* device = ModuleRegistry::instance().createDevice(moduleName);
-    const QMutexLocker lock(&m_mutex);
-    m_device = device;
-    return device != nullptr;
+    m_link->setDevice(ModuleRegistry::instance().createDevice(moduleName));
+    return device() != nullptr;
 }
 
 bool CanInterface::connect()
 {
-    if (m_device == nullptr) {
+    Device* const opened = device();
+    if (opened == nullptr) {
         return false;
     }
-    const bool opened = zul::guardedCall("open", false, [this] { return m_device->open(); });
+    if (isConnected()) {
+        disconnect(); // the hardware was lost, and no poll has noticed yet
+    }
+    const bool isOpen = zul::guardedCall("open", false, [opened] { return opened->open(); });
     const DeviceInfo info =
-        zul::guardedCall("info", DeviceInfo(), [this] { return m_device->info(); });
+        zul::guardedCall("info", DeviceInfo(), [opened] { return opened->info(); });
     m_statusDriven = isStatusDriven(info.moduleName);
-    if (!opened) {
+    if (!isOpen) {
         return false;
     }
-    m_connected = true;
-    m_reader.startReading();
+    retireReader();
+    m_reader = std::make_unique<CanRead>(m_link);
+    m_link->setConnected(); // before the start, so that the reader's first round drains already
+    m_reader->startReading();
     return true;
 }
 
 bool CanInterface::disconnect()
 {
-    if (m_device == nullptr) {
+    if (device() == nullptr) {
         return false;
     }
-    bool closed = false;
-    {
-        // Held over the closing, so that no module sees it in the middle of a recvMessage.
-        const QMutexLocker lock(&m_mutex);
-        closed = zul::guardedCall("close", false, [this] { return m_device->close(); });
-        if (m_connected) {
-            drainLocked();
-        }
+    const bool closed = m_link->close();
+    if (m_reader != nullptr) {
+        m_reader->stopReading();
     }
-    m_reader.stopReading();
     zul::print("Stop Thread\n");
-    m_connected = false;
     return closed;
 }
 
 DeviceStatus CanInterface::status()
 {
-    return m_device != nullptr ? statusOf(*m_device) : DeviceStatus::Closed;
+    return device() != nullptr ? statusOf(*device()) : DeviceStatus::Closed;
 }
 
 QString CanInterface::errorMessage() const
 {
-    if (m_device == nullptr) {
+    if (device() == nullptr) {
         return QString();
     }
     return zul::fromLatin1(
-        zul::guardedCall("errorMsg", std::string(), [this] { return m_device->errorMsg(); }));
+        zul::guardedCall("errorMsg", std::string(), [this] { return device()->errorMsg(); }));
 }
 
 double CanInterface::busLoad() const
 {
-    const std::int32_t baudrate = m_device != nullptr
+    const std::int32_t baudrate = device() != nullptr
                                       ? zul::guardedCall("baudrate", baudrateWithoutDevice,
-                                                         [this] { return m_device->baudrate(); })
+                                                         [this] { return device()->baudrate(); })
                                       : baudrateWithoutDevice;
     if (baudrate == 0) {
         return 0.0;
@@ -240,47 +229,34 @@ bool CanInterface::poll()
     BatchListeners::instance().notify(batch);
     m_estimator.update(
         batch, m_statusDriven ? LoadEstimator::Source::Status : LoadEstimator::Source::Frames,
-        m_connected, zul::wallClock());
-    if (m_device != nullptr && m_connected && status() == DeviceStatus::Closed) {
+        isConnected(), zul::wallClock());
+    if (device() != nullptr && isConnected() && status() == DeviceStatus::Closed) {
         disconnect();
         return false;
     }
     return true;
 }
 
-void CanInterface::drainDevice()
-{
-    if (!m_connected) {
-        return;
-    }
-    const QMutexLocker lock(&m_mutex);
-    if (m_device != nullptr && m_connected) {
-        drainLocked();
-    }
-}
-
-void CanInterface::drainLocked()
-{
-    const auto next = [this] { return m_device->recvMessage(); };
-    constexpr Message* none = nullptr;
-    while (Message* message = zul::guardedCall("recvMessage", none, next)) {
-        m_received.push_back(message);
-    }
-}
-
 MessageContainer CanInterface::takeReceived()
 {
-    std::vector<Message*> received;
-    {
-        const QMutexLocker lock(&m_mutex);
-        received.swap(m_received);
-    }
+    const std::vector<Message*> received = m_link->takeReceived();
     MessageContainer batch;
     batch.messages().reserve(received.size());
-    for (Message* message : received) {
+    for (Message* message : received) { // never null
         batch.addMessage(SmartPtr<Message>(message));
     }
     return batch;
+}
+
+void CanInterface::retireReader()
+{
+    if (m_reader != nullptr && !m_reader->wait(readerWaitMs)) {
+        // Stuck in its device. It is left to end by itself, with the link that it holds: a thread
+        // that still runs can neither be destroyed nor be broken off safely.
+        static_cast<void>(m_reader.release());
+        return;
+    }
+    m_reader.reset();
 }
 
 } // namespace comm

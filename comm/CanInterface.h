@@ -1,6 +1,7 @@
 #pragma once
 
 #include "comm/CanRead.h"
+#include "comm/DeviceLink.h"
 #include "comm/LoadEstimator.h"
 #include "message/Device.h"
 #include "project/InterfaceObject.h"
@@ -11,14 +12,13 @@
 #include <atomic>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace comm {
 
 /// One CAN connection: it owns a device, reads it on a thread of its own while connected, delivers
 /// what was received to the windows on the main thread, and takes what windows send.
 ///
-/// Everything but `drainDevice` runs on the main thread.
+/// All of it runs on the main thread; the reader thread only sees the `DeviceLink`.
 class CanInterface : public InterfaceObject
 {
 public:
@@ -38,7 +38,7 @@ public:
     void receive(MessageContainer& batch) override;
 
     /// The device, or null.
-    Device* device() const { return m_device; }
+    Device* device() const { return m_link->device(); }
     /// Closes and destroys the device there is, and makes one of that module. True if a device now
     /// exists; an empty name only removes.
     bool selectDevice(const std::string& moduleName);
@@ -53,26 +53,20 @@ public:
     /// Frames per second.
     int frameRate() const;
     bool poll() override;
-    bool isConnected() const { return m_connected; }
-
-    /// Moves what the device has received onto the list of `poll`; on the reader thread.
-    void drainDevice();
+    bool isConnected() const { return m_link->isConnected(); }
 
     static constexpr int defaultExtent = 400; ///< window size, both ways, in pixels
 
 private:
-    void drainLocked();
     MessageContainer takeReceived();
+    void retireReader();
     void readElement(const QDomElement& element);
     void readProperty(const QDomElement& element);
 
     LoadEstimator m_estimator;
-    std::atomic<bool> m_connected{false};
     bool m_statusDriven = false;
-    Device* m_device = nullptr;       // guarded by m_mutex against the reader while it is exchanged
-    std::vector<Message*> m_received; // owned; guarded by m_mutex
-    QMutex m_mutex;
-    CanRead m_reader;
+    std::shared_ptr<DeviceLink> m_link = std::make_shared<DeviceLink>();
+    std::unique_ptr<CanRead> m_reader; // null until the first connection
 };
 
 } // namespace comm

@@ -1,16 +1,15 @@
 #include "comm/CanRead.h"
 
-#include "comm/CanInterface.h"
+#include "comm/DeviceLink.h"
+
+#include <utility>
 
 namespace comm {
 
-CanRead::CanRead(CanInterface& interface) : m_interface(interface) {}
+CanRead::CanRead(std::shared_ptr<DeviceLink> link) : m_link(std::move(link)) {}
 
 void CanRead::startReading()
 {
-    if (m_stop) {
-        wait();
-    }
     // Cleared here and not by the thread itself, which might overwrite a stop that came in between.
     m_stop = false;
     start(QThread::HighPriority);
@@ -24,7 +23,7 @@ void CanRead::stopReading()
 void CanRead::run()
 {
     do {
-        m_interface.drainDevice();
+        m_link->drain();
         msleep(periodMs);
     } while (!m_stop);
 }

@@ -3,31 +3,31 @@
 #include <QThread>
 
 #include <atomic>
+#include <memory>
 
 namespace comm {
 
-class CanInterface;
+class DeviceLink;
 
 /// The reader thread of one interface: it drains the device and sleeps, nothing else.
 class CanRead : public QThread
 {
 public:
-    explicit CanRead(CanInterface& interface);
+    /// Sleep between two rounds, in milliseconds.
+    static constexpr unsigned long periodMs = 10;
 
-    /// Starts the thread at high priority. A run that was told to stop and has not ended yet is
-    /// waited for, which takes no longer than its sleep.
+    explicit CanRead(std::shared_ptr<DeviceLink> link);
+
+    /// Starts the thread at high priority.
     void startReading();
     /// Tells the thread to end; does not wait for it.
     void stopReading();
-
-    /// Sleep between two rounds, in milliseconds.
-    static constexpr unsigned long periodMs = 10;
 
 protected:
     void run() override;
 
 private:
-    CanInterface& m_interface;
+    std::shared_ptr<DeviceLink> m_link;
     std::atomic<bool> m_stop{false};
 };
 

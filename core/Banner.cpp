@@ -3,7 +3,9 @@
 #include "core/Console.h"
 #include "core/Version.h"
 
-#include <QDir>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 namespace zul {
 
@@ -21,7 +23,7 @@ constexpr const char* logo = "        _______  _   _  _\n"
                              "  | |_| |_| |_|   CAN bus   |_| |_| |_| |\n"
                              "\n";
 
-constexpr int directoryBytes = 255;
+constexpr std::size_t directoryBytes = 255;
 
 } // namespace
 
@@ -30,8 +32,10 @@ void printBanner()
     print("%s\n\n%s", dashes, logo);
     print("                Version  : %s\n", versionText().c_str());
     print("                Compiled : %s\n", buildStamp().c_str());
-    print("                CWD      : %s\n",
-          QDir::currentPath().toLocal8Bit().left(directoryBytes).constData());
+    // Not through Qt: this is printed before the application object knows the locale.
+    std::error_code ignored;
+    const std::string directory = std::filesystem::current_path(ignored).string();
+    print("                CWD      : %s\n", directory.substr(0, directoryBytes).c_str());
     print("%s\n", dashes);
 }
 

@@ -1,14 +1,16 @@
 #include "core/DynamicLibrary.h"
 
+#include <QFileInfo>
 #include <QLibrary>
 
 namespace zul {
 
-DynamicLibrary::DynamicLibrary(const QString& path) : m_path(path)
+// An absolute path is loaded as it stands; a bare name would get other suffixes tried first.
+DynamicLibrary::DynamicLibrary(const QString& path) : m_path(QFileInfo(path).absoluteFilePath())
 {
     static int loadedLibraries = 0;
-    QLibrary library(path); // its destructor does not unload
-    library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
+    QLibrary library(m_path); // its destructor does not unload
+    library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (library.load()) {
         m_handle = ++loadedLibraries;
     }

@@ -1,23 +1,26 @@
 #pragma once
 
-#include "core/Console.h"
-
 #include <exception>
 #include <utility>
 
 namespace zul {
 
-/// Calls into a device module. An exception, which the contract forbids, ends here: it gives one
-/// line on standard error with the operation's name, and `fallback` as the result.
+/// Tells of an exception that came out of a device module, in one line on standard error; `what`
+/// may be null. A failure that repeats the one before is not told again: the reader thread calls a
+/// hundred times a second. Any thread.
+void reportModuleFailure(const char* operation, const char* what);
+
+/// Calls into a device module. An exception, which the contract forbids, ends here: it is reported,
+/// and `fallback` is the result.
 template <typename Result, typename Function>
 Result guardedCall(const char* operation, Result fallback, Function&& function)
 {
     try {
         return std::forward<Function>(function)();
     } catch (const std::exception& error) {
-        printError("Device module: %s failed: %s\n", operation, error.what());
+        reportModuleFailure(operation, error.what());
     } catch (...) {
-        printError("Device module: %s failed\n", operation);
+        reportModuleFailure(operation, nullptr);
     }
     return fallback;
 }

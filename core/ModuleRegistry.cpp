@@ -92,7 +92,7 @@ const ModuleEntry* ModuleRegistry::find(const std::string& moduleName) const
 Device* ModuleRegistry::createDevice(const std::string& moduleName) const
 {
     const ModuleEntry* module = find(moduleName);
-    if (module == nullptr) {
+    if (module == nullptr || moduleName.empty()) { // an empty name stands for no device
         return nullptr;
     }
     return zul::guardedCall("createDevice", static_cast<Device*>(nullptr), module->createDevice);

@@ -22,6 +22,7 @@ SettingsStore& SettingsStore::instance()
 void SettingsStore::setFile(const QString& path)
 {
     m_path = path;
+    m_fileBroken = false;
 }
 
 void SettingsStore::load()

@@ -18,9 +18,4 @@ std::string versionText()
     return productName() + " " + versionNumbers();
 }
 
-std::string buildStamp()
-{
-    return __DATE__ " " __TIME__;
-}
-
 } // namespace zul

@@ -1,7 +1,5 @@
 #include "core/XmlFile.h"
 
-#include "core/Console.h"
-
 #include <QFile>
 #include <QSaveFile>
 #include <QTextStream>
@@ -97,18 +95,17 @@ QString decoded(const QByteArray& bytes)
     return source.data();
 }
 
-XmlLoad broken(const QString& path, const QString& reason)
-{
-    print("Cannot read <%s>: %s\n", path.toLocal8Bit().constData(),
-          reason.toLocal8Bit().constData());
-    return XmlLoad::Broken;
-}
-
 } // namespace
 
-XmlLoad loadXmlFile(const QString& path, QDomDocument& document)
+XmlLoad loadXmlFile(const QString& path, QDomDocument& document, QString* reason)
 {
     document = QDomDocument();
+    const auto broken = [reason](const QString& text) {
+        if (reason != nullptr) {
+            *reason = text;
+        }
+        return XmlLoad::Broken;
+    };
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return XmlLoad::Absent;
@@ -116,17 +113,17 @@ XmlLoad loadXmlFile(const QString& path, QDomDocument& document)
     // One byte more than allowed tells a file that is too large, also where size() knows nothing.
     const QByteArray bytes = file.read(maxXmlBytes + 1);
     if (bytes.size() > maxXmlBytes) {
-        return broken(path, QStringLiteral("larger than %1 bytes").arg(maxXmlBytes));
+        return broken(QStringLiteral("larger than %1 bytes").arg(maxXmlBytes));
     }
     const QString text = decoded(bytes);
-    const QString reason = refusal(text);
-    if (!reason.isEmpty()) {
-        return broken(path, reason);
+    const QString refused = refusal(text);
+    if (!refused.isEmpty()) {
+        return broken(refused);
     }
     QString error;
     if (!document.setContent(text, &error)) {
         document = QDomDocument();
-        return broken(path, error);
+        return broken(error);
     }
     return XmlLoad::Loaded;
 }
@@ -134,6 +131,7 @@ XmlLoad loadXmlFile(const QString& path, QDomDocument& document)
 bool saveXmlFile(const QDomDocument& document, const QString& path)
 {
     QSaveFile file(path);
+    file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
@@ -152,9 +150,7 @@ void keepAside(const QString& path)
 {
     const QString aside = path + QStringLiteral(".bak");
     QFile::remove(aside);
-    if (QFile::rename(path, aside)) {
-        print("Kept <%s>\n", aside.toLocal8Bit().constData());
-    }
+    QFile::rename(path, aside);
 }
 
 } // namespace zul

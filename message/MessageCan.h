@@ -2,7 +2,6 @@
 
 #include "message/Message.h"
 #include "message/MessageData.h"
-#include "message/TimeStamp.h"
 
 #include <cstdint>
 
@@ -25,7 +24,12 @@ public:
         ExtendedFdBrs = 5  ///< FD with bit-rate switch
     };
 
-    using TimeStamp = TimeStampRecord;
+    /// An instant, or for scheduled sending a delay, as a record of two words.
+    struct TimeStamp
+    {
+        std::uint32_t seconds = 0;
+        std::uint32_t nanoseconds = 0;
+    };
 
     MessageCan();
     ~MessageCan() override;
@@ -50,17 +54,18 @@ public:
     std::uint32_t channel() const;
     void setChannel(std::uint32_t channel);
 
-    /// Non-zero marks a frame for the device's scheduled-send memory: its time stamp is then a
-    /// delay from the start control on (see `MessageCtrl`).
+    /// Non-zero marks a frame for the device's scheduled-send memory (see `MessageCtrl`): its time
+    /// stamp is then a delay, not an absolute time.
     std::uint32_t cpmMode() const;
     void setCpmMode(std::uint32_t cpmMode);
 
-    /// Time of the frame. Both views always tell the same instant, whichever setter was used.
+    /// Time of the frame. Both views tell the same instant, whichever setter was used.
     TimeStamp timeStamp() const;
-    /// Time of the frame in seconds.
+    /// Time of the frame in seconds; at wall-clock size a double resolves about 0.2 microseconds.
     double timeStampDouble() const;
     void setTimeStamp(const TimeStamp& timeStamp);
-    /// Sets the time in seconds; values that the record cannot hold are clamped.
+    /// Sets the time in seconds, to the nearest nanosecond. What the record cannot hold is clamped:
+    /// negative values and NaN to 0, too large ones to 4294967295 s and 999999999 ns.
     void setTimeStamp(double seconds);
 
     /// The payload.

@@ -8,17 +8,18 @@ namespace zul {
 
 /// A command to a device.
 ///
-/// A schedule is sent as one batch: `ScheduleBegin`, the frames (`MessageCan::cpmMode` 1, the time
-/// stamp being the delay in seconds), `ScheduleEnd`, `ScheduleStart`. A device that knows no
-/// scheduled sending ignores controls.
+/// A schedule is sent as one batch, in this order: `ScheduleBegin`, the frames
+/// (`MessageCan::cpmMode` 1, the time stamp being the moment of sending in seconds from 0.1
+/// upward), `ScheduleEnd`, `ScheduleStart`. What they make a device do is its module's business; a
+/// device that knows no scheduled sending ignores controls.
 class MESSAGE_INTERFACE_EXPORT MessageCtrl : public Message
 {
 public:
     enum class ECtrl : std::uint32_t {
         ClearStatus = 0,   ///< reset the status counters
-        ScheduleEnd = 1,   ///< the last frame of the schedule has been given
-        ScheduleBegin = 2, ///< empties the schedule; its frames follow
-        ScheduleStart = 3  ///< the delays count from now
+        ScheduleEnd = 1,   ///< follows the last frame of a schedule
+        ScheduleBegin = 2, ///< stands ahead of the frames
+        ScheduleStart = 3  ///< the last message of the batch
     };
 
     MessageCtrl();

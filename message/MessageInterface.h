@@ -12,4 +12,3 @@
 #include "message/MessageInterfaceExport.h"
 #include "message/MessageStatus.h"
 #include "message/SmartPtr.h"
-#include "message/TimeStamp.h"

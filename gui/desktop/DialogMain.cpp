@@ -1,6 +1,7 @@
 #include "gui/desktop/DialogMain.h"
 
 #include "core/Kernel.h"
+#include "core/Latin1.h"
 #include "core/SettingsStore.h"
 #include "core/Version.h"
 #include "gui/desktop/DialogProfileResult.h"
@@ -194,10 +195,12 @@ void DialogMain::applyFirstGeometry()
 
 void DialogMain::updateTitle()
 {
-    const QString file = m_project.fileName();
-    QString title = QString::fromLatin1(zul::version.product) + QStringLiteral("     ") +
-                    file.mid(file.lastIndexOf(QLatin1Char('/')) + 1);
-    if (m_project.isEdited()) {
+    const QString path = m_project.fileName();
+    QString file = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    file.replace(QLatin1String("[*]"), QLatin1String("[*][*]")); // else Qt's mark for changes
+    QString title = zul::fromLatin1(zul::productName()) + QStringLiteral("     ") + file;
+    m_lastEdited = m_project.isEdited();
+    if (m_lastEdited) {
         title += QStringLiteral(" (edited)");
     }
     setWindowTitle(title);
@@ -285,7 +288,6 @@ void DialogMain::slotTimeout()
     }
     m_project.poll();
     if (m_project.isEdited() != m_lastEdited) {
-        m_lastEdited = m_project.isEdited();
         updateTitle();
     }
     m_heartbeat.start(tickMs);

@@ -78,8 +78,9 @@ std::unique_ptr<zul::MessageCan> messageFromFrame(const BusFrame& frame)
     message->setByteCount(frame.byteCount);
     message->setFrameType(frame.type);
     message->setMode(frame.mode);
-    message->setTimeStamp(zul::TimeStampRecord{static_cast<std::uint32_t>(frame.time / second),
-                                               static_cast<std::uint32_t>(frame.time % second)});
+    message->setTimeStamp(
+        zul::MessageCan::TimeStamp{static_cast<std::uint32_t>(frame.time / second),
+                                   static_cast<std::uint32_t>(frame.time % second)});
     std::copy_n(frame.data.begin(), frame.byteCount, &message->msg()[0]);
     return message;
 }

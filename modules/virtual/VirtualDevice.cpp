@@ -123,7 +123,7 @@ bool VirtualDevice::sendFrame(const zul::MessageCan& message)
     }
     PendingFrame frame = makePending(frameFromMessage(message), 0);
     if (message.cpmMode() != 0) {
-        const zul::TimeStampRecord delay = message.timeStamp();
+        const zul::MessageCan::TimeStamp delay = message.timeStamp();
         frame.readyAt = delay.seconds * second + delay.nanoseconds;
         return storeFrame(frame);
     }

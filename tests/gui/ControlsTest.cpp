@@ -13,11 +13,11 @@
 #include "gui/controls/WidgetStatus.h"
 #include "tests/support/SettableClock.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <gtest/gtest.h>
 #include <limits>
 
 namespace {

@@ -1,5 +1,6 @@
-#include "core/SettingsStore.h"
 #include "gui/frame/DialogBase.h"
+
+#include "core/SettingsStore.h"
 #include "gui/frame/GuiRequests.h"
 #include "gui/frame/MessageBoxes.h"
 #include "gui/frame/MessageGuiAboutDialog.h"
@@ -8,11 +9,11 @@
 #include "project/ObjectReceive.h"
 #include "tests/support/ProbeObjects.h"
 
-#include <gtest/gtest.h>
-
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <gtest/gtest.h>
 
 namespace {
 

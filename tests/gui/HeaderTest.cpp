@@ -7,13 +7,13 @@
 #include "tests/support/SettableClock.h"
 #include "tests/support/TestHome.h"
 
-#include <gtest/gtest.h>
-
 #include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -35,10 +35,7 @@ protected:
         object->setName(QLatin1String(name));
         return *object;
     }
-    static void changed()
-    {
-        gui::Kernel::instance().notify(gui::Kernel::interfacesAspect);
-    }
+    static void changed() { gui::Kernel::instance().notify(gui::Kernel::interfacesAspect); }
     static QStringList names(const WidgetInterfaceSelect& select)
     {
         QStringList list;
@@ -59,8 +56,8 @@ TEST_F(HeaderTest, SelectorListsAllAndTheInterfacesInOrder)
     addInterface("Tail & fin");
     const WidgetInterfaceSelect select;
     EXPECT_EQ(select.interface(), QStringLiteral("All Interfaces"));
-    EXPECT_EQ(names(select), (QStringList{QStringLiteral("All Interfaces"),
-                                          QStringLiteral("Nose"), QStringLiteral("Tail & fin")}));
+    EXPECT_EQ(names(select), (QStringList{QStringLiteral("All Interfaces"), QStringLiteral("Nose"),
+                                          QStringLiteral("Tail & fin")}));
 }
 
 TEST_F(HeaderTest, ChoosingAnActionTellsAndSettingFromOutsideDoesNot)
@@ -167,13 +164,13 @@ TEST_F(HeaderTest, ModesEnableTheirHalf)
         bool input;
         bool output;
     };
-    for (const Row& row : {Row{WidgetHeader::Mode::Input, true, false},
-                           Row{WidgetHeader::Mode::Output, false, true},
-                           Row{WidgetHeader::Mode::Both, true, true}}) {
+    for (const Row& row :
+         {Row{WidgetHeader::Mode::Input, true, false}, Row{WidgetHeader::Mode::Output, false, true},
+          Row{WidgetHeader::Mode::Both, true, true}}) {
         WidgetHeader header;
         header.setMode(row.mode);
-        for (const char* name : {"inputSelect", "inputCounter", "inputSwitch", "filterSwitch",
-                                 "filterSetup"}) {
+        for (const char* name :
+             {"inputSelect", "inputCounter", "inputSwitch", "filterSwitch", "filterSetup"}) {
             EXPECT_EQ(control<QWidget>(header, name).isEnabled(), row.input) << name;
         }
         for (const char* name : {"outputSelect", "outputCounter", "outputSwitch"}) {

@@ -16,8 +16,6 @@
 #include "tests/support/SettableClock.h"
 #include "tests/support/TestHome.h"
 
-#include <gtest/gtest.h>
-
 #include <QHeaderView>
 #include <QLabel>
 #include <QPointer>
@@ -25,6 +23,8 @@
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -65,8 +65,8 @@ protected:
     bool painted(int column, const char* text)
     {
         return QTest::qWaitFor([&] {
-            return m_tree->topLevelItemCount() > 0
-                   && m_tree->topLevelItem(0)->text(column) == QLatin1String(text);
+            return m_tree->topLevelItemCount() > 0 &&
+                   m_tree->topLevelItem(0)->text(column) == QLatin1String(text);
         });
     }
     void click(const char* name)
@@ -88,9 +88,9 @@ TEST_F(DialogReceiveTest, HasItsColumnsAndControls)
     for (int i = 0; i < m_tree->columnCount(); ++i) {
         headers.append(m_tree->headerItem()->text(i));
     }
-    EXPECT_EQ(headers, (QStringList{QStringLiteral("Msgs"), QStringLiteral("Time"),
-                                    QStringLiteral("Id"), QStringLiteral("Len"),
-                                    QStringLiteral("Message")}));
+    EXPECT_EQ(headers,
+              (QStringList{QStringLiteral("Msgs"), QStringLiteral("Time"), QStringLiteral("Id"),
+                           QStringLiteral("Len"), QStringLiteral("Message")}));
     EXPECT_EQ(m_tree->columnWidth(0), 100);
     EXPECT_GE(m_tree->columnWidth(1), 100);
     EXPECT_GE(m_tree->columnWidth(2), 100);
@@ -137,13 +137,11 @@ TEST_F(DialogReceiveTest, SilentRowTurnsWhiteAtTheNextBatchAfterHalfASecond)
     MessageContainer empty;
     empty.setSrcDest("Nose");
     feed(empty);
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        return m_tree->topLevelItem(0)->background(0).color() == QColor(255, 255, 255);
-    }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return m_tree->topLevelItem(0)->background(0).color() == QColor(255, 255, 255); }));
     feed(batchOf(1, 1));
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        return m_tree->topLevelItem(0)->background(0).color() == QColor(220, 255, 220);
-    }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return m_tree->topLevelItem(0)->background(0).color() == QColor(220, 255, 220); }));
 }
 
 TEST_F(DialogReceiveTest, ErrorFrameIsRedKeepsTheBytesAndANormalFrameIsBlackAgain)
@@ -169,8 +167,7 @@ TEST_F(DialogReceiveTest, LongFrameShowsItsLinesAndAShortOneHidesThem)
     const QTreeWidgetItem& row = *m_tree->topLevelItem(0);
     for (int i = 0; i < 3; ++i) {
         EXPECT_FALSE(row.child(i)->isHidden()) << i;
-        EXPECT_TRUE(row.child(i)->text(4).startsWith(
-            QString::asprintf(" %2d-> ", 16 * (i + 1))));
+        EXPECT_TRUE(row.child(i)->text(4).startsWith(QString::asprintf(" %2d-> ", 16 * (i + 1))));
     }
     feed(batchOf(1, 33));
     ASSERT_TRUE(painted(3, "D33"));

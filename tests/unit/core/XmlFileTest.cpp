@@ -31,8 +31,9 @@ protected:
         // Something that a failing load must take away.
         document = QDomDocument();
         document.appendChild(document.createElement(QStringLiteral("before")));
+        reason.clear();
         ConsoleCapture console;
-        const XmlLoad result = loadXmlFile(home.file(fileName), document);
+        const XmlLoad result = loadXmlFile(home.file(fileName), document, &reason);
         output = console.out();
         if (result != XmlLoad::Loaded) {
             EXPECT_TRUE(document.documentElement().isNull());
@@ -48,6 +49,7 @@ protected:
 
     test::TestHome home;
     QDomDocument document;
+    QString reason;
     std::string output;
 };
 
@@ -116,12 +118,11 @@ class BrokenXml : public XmlFile, public testing::WithParamInterface<const char*
 {
 };
 
-TEST_P(BrokenXml, IsOneLineOnTheConsoleAndNoDocument)
+TEST_P(BrokenXml, GivesAReasonNoDocumentAndNothingOnTheConsole)
 {
     EXPECT_EQ(load(GetParam()), XmlLoad::Broken);
-    EXPECT_THAT(output, testing::StartsWith("Cannot read <" + std::string(qPrintable(home.path())) +
-                                            "file.xml>: "));
-    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 1);
+    EXPECT_FALSE(reason.isEmpty());
+    EXPECT_EQ(output, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(, BrokenXml,
@@ -158,7 +159,7 @@ TEST_F(XmlFile, DeepestNestingIsRead)
 {
     EXPECT_EQ(load(nested(maxXmlDepth)), XmlLoad::Loaded);
     EXPECT_EQ(load(nested(maxXmlDepth + 1)), XmlLoad::Broken);
-    EXPECT_THAT(output, HasSubstr("nested deeper than 200 elements"));
+    EXPECT_THAT(reason.toStdString(), HasSubstr("nested deeper than 200 elements"));
 }
 
 TEST_F(XmlFile, DepthBombIsRefused)
@@ -170,14 +171,14 @@ TEST_F(XmlFile, DepthBombIsRefused)
 TEST_F(XmlFile, DepthBombBehindAWronglyEncodedLetterIsRefused)
 {
     EXPECT_EQ(load("<a v=\"\xfc\">" + nested(100000) + "</a>"), XmlLoad::Broken);
-    EXPECT_THAT(output, HasSubstr("nested deeper"));
+    EXPECT_THAT(reason.toStdString(), HasSubstr("nested deeper"));
 }
 
 TEST_F(XmlFile, DepthBombWithMarkupThatHidesElementsIsRefused)
 {
     const QByteArray disguise = "<a x='/>' y=\"</a>\"><!-- </a> --><![CDATA[</a>]]><?p </a>?>";
     EXPECT_EQ(load(disguise.repeated(1000) + QByteArray("</a>").repeated(1000)), XmlLoad::Broken);
-    EXPECT_THAT(output, HasSubstr("nested deeper"));
+    EXPECT_THAT(reason.toStdString(), HasSubstr("nested deeper"));
 }
 
 TEST_F(XmlFile, ManySiblingsAreNotDepth)
@@ -196,7 +197,7 @@ TEST_F(XmlFile, EntityBombIsRefused)
         content += "<!ENTITY e" + QByteArray::number(i) + " \"" + before.repeated(10) + "\">";
     }
     EXPECT_EQ(load(content + "]><Z v=\"&e20;\">&e20;</Z>"), XmlLoad::Broken);
-    EXPECT_THAT(output, HasSubstr("declares entities"));
+    EXPECT_THAT(reason.toStdString(), HasSubstr("declares entities"));
 }
 
 TEST_F(XmlFile, ExternalEntityIsRefused)
@@ -220,15 +221,14 @@ TEST_F(XmlFile, FileAboveTheLimitIsRefused)
     ASSERT_TRUE(file.resize(maxXmlBytes + 1)); // takes no room on the disk
     file.close();
     EXPECT_EQ(loadAgain(), XmlLoad::Broken);
-    EXPECT_THAT(output, HasSubstr("larger than 67108864 bytes"));
+    EXPECT_THAT(reason.toStdString(), HasSubstr("larger than 67108864 bytes"));
 }
 
 TEST_F(XmlFile, EndlessFileIsRefused)
 {
     QDomDocument endless;
-    ConsoleCapture console;
-    EXPECT_EQ(loadXmlFile(QStringLiteral("/dev/zero"), endless), XmlLoad::Broken);
-    EXPECT_THAT(console.out(), HasSubstr("larger than"));
+    EXPECT_EQ(loadXmlFile(QStringLiteral("/dev/zero"), endless, &reason), XmlLoad::Broken);
+    EXPECT_THAT(reason.toStdString(), HasSubstr("larger than"));
 }
 
 TEST_F(XmlFile, SaveReplacesTheFile)
@@ -280,7 +280,7 @@ TEST_F(XmlFile, KeepAsideReplacesAnOlderOne)
     keepAside(home.file(fileName));
     EXPECT_EQ(home.read(QStringLiteral("file.xml.bak")), QByteArray("new"));
     EXPECT_FALSE(home.has(fileName));
-    EXPECT_THAT(console.out(), HasSubstr("file.xml.bak>\n"));
+    EXPECT_EQ(console.out(), "");
 }
 
 TEST_F(XmlFile, KeepAsideOfNothingIsSilent)

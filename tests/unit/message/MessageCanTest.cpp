@@ -106,9 +106,10 @@ TEST(TimeStamp, ZeroStaysZero)
 TEST(TimeStamp, WhatTheRecordCannotHoldIsClamped)
 {
     const auto expectRecord = [](double seconds, std::uint32_t whole, std::uint32_t nano) {
-        const auto record = zul::timeStampFromDouble(seconds);
-        EXPECT_EQ(record.seconds, whole) << seconds;
-        EXPECT_EQ(record.nanoseconds, nano) << seconds;
+        MessageCan frame;
+        frame.setTimeStamp(seconds);
+        EXPECT_EQ(frame.timeStamp().seconds, whole) << seconds;
+        EXPECT_EQ(frame.timeStamp().nanoseconds, nano) << seconds;
     };
     expectRecord(-1.0, 0, 0);
     expectRecord(std::nan(""), 0, 0);
@@ -128,8 +129,9 @@ TEST(TimeStamp, RoundTripKeepsWhatADoubleResolves)
     std::uniform_real_distribution<double> seconds(0.0, 4294967295.0);
     for (int i = 0; i < 10000; ++i) {
         const double value = seconds(generator);
-        const double back = zul::timeStampToDouble(zul::timeStampFromDouble(value));
-        EXPECT_NEAR(back, value, 1e-6) << "seed " << seed;
+        MessageCan frame;
+        frame.setTimeStamp(value);
+        EXPECT_NEAR(frame.timeStampDouble(), value, 1e-6) << "seed " << seed;
     }
 }
 

@@ -16,7 +16,7 @@ TEST(Layout, SizesOnA64BitHost)
     EXPECT_EQ(sizeof(zul::MessageData), 64U);
     EXPECT_EQ(sizeof(zul::MessageCan), 120U);
     EXPECT_EQ(sizeof(zul::MessageCtrl), 24U);
-    EXPECT_EQ(sizeof(zul::TimeStampRecord), 8U);
+    EXPECT_EQ(sizeof(zul::MessageCan::TimeStamp), 8U);
     EXPECT_EQ(sizeof(SmartPtr<Message>), sizeof(void*));
     EXPECT_EQ(sizeof(DeviceStatus), 4U);
     EXPECT_EQ(sizeof(PropertyKind), 4U);

@@ -1,7 +1,6 @@
 #include "project/Filter.h"
 
 #include <gtest/gtest.h>
-
 #include <limits>
 #include <random>
 

@@ -5,7 +5,6 @@
 #include "tests/support/ProbeObjects.h"
 
 #include <gtest/gtest.h>
-
 #include <memory>
 #include <set>
 

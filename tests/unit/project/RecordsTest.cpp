@@ -11,10 +11,10 @@
 #include "tests/support/ProbeObjects.h"
 #include "tests/support/TestHome.h"
 
-#include <gtest/gtest.h>
-
 #include <QFile>
+
 #include <functional>
+#include <gtest/gtest.h>
 #include <map>
 
 // One contract for the records of all windows: the attributes of a new object, every attribute off
@@ -295,8 +295,7 @@ TEST_P(Records, ReadingTellsAnOpenWindow)
     object.setDialog(nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(AllWindows, Records,
-                         testing::Range(std::size_t{0}, cases().size()),
+INSTANTIATE_TEST_SUITE_P(AllWindows, Records, testing::Range(std::size_t{0}, cases().size()),
                          [](const testing::TestParamInfo<std::size_t>& parameter) {
                              return cases()[parameter.param].info().tag.toLatin1().toStdString();
                          });
@@ -338,8 +337,7 @@ TEST(TransmitRecord, LinesSurviveWithTheirPayload)
     zul::test::TestHome home;
     const QString path = home.path() + QStringLiteral("default.zul");
     Project project({ObjectTransmit::typeInfo()}, path);
-    auto& written
-        = dynamic_cast<ObjectTransmit&>(*project.createObject(ObjectType::Transmit));
+    auto& written = dynamic_cast<ObjectTransmit&>(*project.createObject(ObjectType::Transmit));
     auto line = std::make_unique<SendMsg>();
     line->name = QStringLiteral("Gear");
     line->id = 0x1FFFFFFF;
@@ -361,8 +359,7 @@ TEST(TransmitRecord, LinesSurviveWithTheirPayload)
     EXPECT_TRUE(file.readAll().contains("msg=\"0xff 0x0 0x7 \""));
 
     project.load(path);
-    const auto& read
-        = dynamic_cast<const ObjectTransmit&>(*project.objects().begin()->second);
+    const auto& read = dynamic_cast<const ObjectTransmit&>(*project.objects().begin()->second);
     ASSERT_EQ(read.lines().size(), 2U);
     const SendMsg& first = *read.lines()[0];
     EXPECT_EQ(first.name, QStringLiteral("Gear"));
@@ -402,8 +399,8 @@ TEST(TransmitRecord, AbsurdLengthsAndLongPayloadsStayInBounds)
     for (int i = 0; i < 100; ++i) {
         payload += "0x1ff ";
     }
-    const std::string xml = "<O><MessageList><Message length='-1' msg='" + payload
-                            + "'/></MessageList></O>";
+    const std::string xml =
+        "<O><MessageList><Message length='-1' msg='" + payload + "'/></MessageList></O>";
     readText(object, xml.c_str());
     EXPECT_EQ(object.lines()[0]->byteCount, 0xFFFFFFFFU);
     EXPECT_EQ(object.lines()[0]->data[63], 0xFF);

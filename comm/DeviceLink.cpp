@@ -1,0 +1,61 @@
+#include "comm/DeviceLink.h"
+
+#include "core/GuardedCall.h"
+
+#include <QMutexLocker>
+
+namespace comm {
+
+DeviceLink::DeviceLink() = default;
+
+void DeviceLink::setDevice(Device* device)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_device = device;
+}
+
+void DeviceLink::setConnected()
+{
+    m_connected = true;
+}
+
+bool DeviceLink::close()
+{
+    const QMutexLocker lock(&m_mutex);
+    const bool closed = zul::guardedCall("close", false, [this] { return m_device->close(); });
+    if (m_connected) {
+        drainLocked();
+    }
+    m_connected = false;
+    return closed;
+}
+
+void DeviceLink::drain()
+{
+    if (!m_connected) {
+        return;
+    }
+    const QMutexLocker lock(&m_mutex);
+    if (m_connected && m_device != nullptr) {
+        drainLocked();
+    }
+}
+
+std::vector<Message*> DeviceLink::takeReceived()
+{
+    std::vector<Message*> received;
+    const QMutexLocker lock(&m_mutex);
+    received.swap(m_received);
+    return received;
+}
+
+void DeviceLink::drainLocked()
+{
+    constexpr Message* none = nullptr;
+    const auto next = [this] { return m_device->recvMessage(); };
+    while (Message* message = zul::guardedCall("recvMessage", none, next)) {
+        m_received.push_back(message);
+    }
+}
+
+} // namespace comm
