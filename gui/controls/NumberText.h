@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace gui {
+
+/// "%d" for number type 0, "0x%X" for 1, nothing for anything else.
+QString numberText(int value, int numberType);
+
+/// The number that `text` stands for, its base taken from its prefix; clamped to what an int holds,
+/// and 0 for text that is no number.
+int numberFromText(const QString& text);
+
+} // namespace gui

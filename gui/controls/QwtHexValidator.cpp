@@ -1,0 +1,18 @@
+#include "gui/controls/QwtHexValidator.h"
+
+#include "gui/controls/NumberText.h"
+
+namespace gui {
+
+QwtHexValidator::QwtHexValidator(int minimum, int maximum, QObject* parent)
+    : QIntValidator(minimum, maximum, parent)
+{
+}
+
+QValidator::State QwtHexValidator::validate(QString& text, int&) const
+{
+    const int value = numberFromText(text);
+    return value >= bottom() && value <= top() ? Acceptable : Invalid;
+}
+
+} // namespace gui

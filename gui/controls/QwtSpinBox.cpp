@@ -1,0 +1,34 @@
+#include "gui/controls/QwtSpinBox.h"
+
+#include "gui/controls/NumberText.h"
+
+namespace gui {
+
+QwtSpinBox::QwtSpinBox(int index, QWidget* parent) : QSpinBox(parent), m_index(index)
+{
+    connect(this, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            [this](int value) { emit signalValueChanged(m_index, value); });
+}
+
+void QwtSpinBox::setNumberType(int numberType)
+{
+    m_numberType = numberType;
+    lineEdit()->setText(textFromValue(value()));
+}
+
+QString QwtSpinBox::textFromValue(int value) const
+{
+    return numberText(value, m_numberType);
+}
+
+int QwtSpinBox::valueFromText(const QString& text) const
+{
+    return numberFromText(text);
+}
+
+QValidator::State QwtSpinBox::validate(QString&, int&) const
+{
+    return QValidator::Acceptable;
+}
+
+} // namespace gui

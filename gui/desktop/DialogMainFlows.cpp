@@ -1,0 +1,178 @@
+#include "core/Kernel.h"
+#include "core/SettingsStore.h"
+#include "gui/desktop/DialogMain.h"
+#include "gui/desktop/WindowDesk.h"
+#include "gui/frame/FileDialogs.h"
+#include "gui/frame/MessageBoxes.h"
+
+#include <QAction>
+
+// What the main window does with whole projects: new, open, save, quit.
+
+namespace gui {
+
+namespace {
+
+const QString fileFilter = QStringLiteral("ZORB File (*.zul);;All Files (*.*)");
+const QString warningTitle = QStringLiteral("ZUL Warning");
+const QString defaultName = QStringLiteral("default.zul");
+const QString suffix = QStringLiteral(".zul");
+
+QString lastSection(const QString& path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+} // namespace
+
+void DialogMain::dispatch(MainAction id)
+{
+    switch (id) {
+    case MainAction::New:
+        newProject();
+        break;
+    case MainAction::Open:
+        openProject();
+        break;
+    case MainAction::Save:
+        saveProject();
+        break;
+    case MainAction::SaveAs:
+        saveProjectAs();
+        break;
+    case MainAction::Quit:
+        quit();
+        break;
+    default:
+        break; // the window actions are connected to the MDI area; others do nothing
+    }
+}
+
+void DialogMain::newProject()
+{
+    if (!askToSave()) {
+        return;
+    }
+    m_heartbeat.stop();
+    m_desk->forceCloseAll();
+    m_project.clear();
+    refreshPanels();
+    updateTitle();
+    m_heartbeat.start(tickMs);
+}
+
+void DialogMain::openProject()
+{
+    if (!askToSave()) {
+        return;
+    }
+    m_heartbeat.stop();
+    const QString path = FileDialogs::openFile(this, QStringLiteral("Open Project"), fileFilter);
+    if (!path.isEmpty()) {
+        m_desk->forceCloseAll();
+        const bool loaded = m_project.load(path);
+        m_recentFiles.add(path);
+        if (!loaded) {
+            warn(QStringLiteral("Loading project failed !"));
+        }
+    }
+    // Deliberate: also after a cancelled dialog, which brings the windows back as they were marked
+    // in the file.
+    openProjectWindows();
+    refreshPanels();
+    updateTitle();
+    m_heartbeat.start(tickMs);
+}
+
+void DialogMain::saveProject()
+{
+    storeGeometry();
+    if (m_project.fileName().isEmpty()) {
+        saveProjectAs();
+        return;
+    }
+    if (!m_project.save(QString())) {
+        warn(QStringLiteral("Saving project failed !"));
+    }
+    updateTitle();
+}
+
+void DialogMain::saveProjectAs()
+{
+    storeGeometry();
+    QString path = FileDialogs::saveFile(this, QStringLiteral("Save Project"), fileFilter);
+    if (path.isEmpty()) {
+        return;
+    }
+    if (!lastSection(path).contains(QLatin1Char('.'))) {
+        path += suffix;
+    }
+    m_recentFiles.add(path);
+    if (!m_project.save(path)) {
+        warn(QStringLiteral("Saving project failed !"));
+    }
+    updateTitle();
+}
+
+void DialogMain::quit()
+{
+    if (quitCheck()) {
+        m_heartbeat.stop();
+        close();
+    }
+}
+
+bool DialogMain::askToSave()
+{
+    if (!m_project.isEdited()) {
+        return true;
+    }
+    const auto answer =
+        MessageBoxes::ask(this, QMessageBox::Warning, warningTitle,
+                          QStringLiteral("Current Project not saved !\nDo you want to save it ?"),
+                          {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel});
+    if (answer == QMessageBox::Yes) {
+        saveProject();
+    }
+    return answer != QMessageBox::Cancel;
+}
+
+bool DialogMain::quitCheck()
+{
+    if (m_project.isEdited() && lastSection(m_project.fileName()) != defaultName && !askToSave()) {
+        return false;
+    }
+    storeGeometry();
+    // Whatever was answered: the next start resumes the last state.
+    m_project.save(Kernel::instance().home() + defaultName);
+    SettingsStore::instance().save();
+    return true;
+}
+
+void DialogMain::slotMenuRecent(QAction* action)
+{
+    const QString path = action->data().toString();
+    m_heartbeat.stop();
+    m_desk->deleteAll();
+    loadProject(path);
+    openProjectWindows();
+    refreshPanels();
+    updateTitle();
+    m_heartbeat.start(tickMs);
+}
+
+void DialogMain::loadProject(const QString& path)
+{
+    if (m_project.load(path)) {
+        m_recentFiles.add(path);
+    } else {
+        warn(QStringLiteral("Loading project failed !"));
+    }
+}
+
+void DialogMain::warn(const QString& text)
+{
+    MessageBoxes::ask(this, QMessageBox::Critical, warningTitle, text, {QMessageBox::Ok});
+}
+
+} // namespace gui

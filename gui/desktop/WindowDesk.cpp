@@ -1,0 +1,114 @@
+#include "gui/desktop/WindowDesk.h"
+
+#include "gui/frame/DialogBase.h"
+#include "project/Project.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+namespace gui {
+
+WindowDesk::WindowDesk(QMdiArea& area, Project& project, QWidget* parent)
+    : QObject(parent), m_area(area), m_project(project), m_parent(parent)
+{
+}
+
+void WindowDesk::openProjectWindows()
+{
+    forceCloseAll();
+    for (const auto& entry : m_project.objects()) {
+        if (entry.second->isOpen()) {
+            openInPlace(*entry.second);
+        }
+    }
+}
+
+DialogBase* WindowDesk::open(Object& object)
+{
+    auto* dialog = dynamic_cast<DialogBase*>(object.createDialog(m_parent));
+    if (dialog == nullptr) {
+        return nullptr;
+    }
+    connect(dialog, &DialogBase::signalDeleteDialog, this, &WindowDesk::signalDeleteDialog);
+    connect(dialog, &DialogBase::signalDeleteObject, this, &WindowDesk::signalDeleteObject);
+    QMdiSubWindow* subWindow = m_area.addSubWindow(dialog);
+    subWindow->setWindowIcon(dialog->windowIcon());
+    subWindow->show();
+    return dialog;
+}
+
+DialogBase* WindowDesk::openInPlace(Object& object)
+{
+    DialogBase* dialog = open(object);
+    if (dialog != nullptr) {
+        QMdiSubWindow* subWindow = find(object.id());
+        subWindow->resize(object.width(), object.height());
+        subWindow->move(object.xPos(), object.yPos());
+        dialog->setName(object.name());
+    }
+    return dialog;
+}
+
+QMdiSubWindow* WindowDesk::find(int objectId) const
+{
+    for (QMdiSubWindow* subWindow : m_area.subWindowList()) {
+        const DialogBase* dialog = dialogOf(*subWindow);
+        if (dialog != nullptr && dialog->object() != nullptr &&
+            dialog->object()->id() == objectId) {
+            return subWindow;
+        }
+    }
+    return nullptr;
+}
+
+DialogBase* WindowDesk::dialogOf(const QMdiSubWindow& subWindow)
+{
+    return qobject_cast<DialogBase*>(subWindow.widget());
+}
+
+void WindowDesk::forceCloseAll()
+{
+    for (QMdiSubWindow* subWindow : m_area.subWindowList()) {
+        if (DialogBase* dialog = dialogOf(*subWindow)) {
+            dialog->forceClose();
+            subWindow->close();
+        }
+    }
+}
+
+void WindowDesk::forceClose(int objectId)
+{
+    if (QMdiSubWindow* subWindow = find(objectId)) {
+        dialogOf(*subWindow)->forceClose();
+        subWindow->close();
+    }
+}
+
+void WindowDesk::deleteAll()
+{
+    for (QMdiSubWindow* subWindow : m_area.subWindowList()) {
+        delete subWindow;
+    }
+}
+
+void WindowDesk::storeGeometry()
+{
+    for (const QMdiSubWindow* subWindow : m_area.subWindowList()) {
+        const DialogBase* dialog = dialogOf(*subWindow);
+        if (dialog != nullptr && dialog->object() != nullptr) {
+            dialog->object()->setPosition(subWindow->x(), subWindow->y());
+            dialog->object()->setSize(subWindow->width(), subWindow->height());
+        }
+    }
+}
+
+void WindowDesk::broadcast(Message& message)
+{
+    for (const QMdiSubWindow* subWindow : m_area.subWindowList()) {
+        if (DialogBase* dialog = dialogOf(*subWindow)) {
+            dialog->guiMessage(&message);
+        }
+    }
+}
+
+} // namespace gui

@@ -1,0 +1,132 @@
+#include "gui/frame/DialogBase.h"
+
+#include "core/SettingsStore.h"
+#include "gui/frame/GuiRequests.h"
+#include "gui/frame/MessageBoxes.h"
+#include "project/Object.h"
+
+#include <QCloseEvent>
+
+#include <utility>
+
+namespace gui {
+
+namespace {
+
+// Values of the setting "OnCloseDialog"; with any other a window just closes.
+constexpr int keepObject = 0;
+constexpr int removeObject = 1;
+constexpr int askUser = 2;
+
+constexpr int noObject = -1;
+
+} // namespace
+
+DialogBase::DialogBase(Object* object, QWidget* parent)
+    : QWidget(parent), m_mainWindow(parent), m_object(object)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    if (m_object != nullptr) {
+        m_object->setDialog(this);
+    }
+}
+
+DialogBase::~DialogBase()
+{
+    detach();
+}
+
+void DialogBase::setObject(Object* object)
+{
+    m_object = object;
+}
+
+void DialogBase::guiMessage(Message*) {}
+
+void DialogBase::receive(MessageContainer&) {}
+
+void DialogBase::send(MessageContainer& batch)
+{
+    if (m_object != nullptr) {
+        m_object->send(batch);
+    }
+}
+
+void DialogBase::updateDialog() {}
+
+void DialogBase::forceClose()
+{
+    m_forceClose = true;
+}
+
+void DialogBase::setName(const QString& name)
+{
+    m_name = name;
+    setWindowTitle(m_name);
+}
+
+void DialogBase::setTypeTitle(const QString& typeTitle)
+{
+    m_typeTitle = typeTitle;
+    setWindowTitle(m_name);
+}
+
+void DialogBase::guiRequest(std::unique_ptr<Message> request)
+{
+    GuiRequests::send(std::move(request));
+}
+
+void DialogBase::closeEvent(QCloseEvent* event)
+{
+    int policy = SettingsStore::instance().integer(QStringLiteral("OnCloseDialog"), keepObject);
+    if (m_forceClose) {
+        policy = keepObject;
+    } else if (policy == askUser) {
+        const auto answer =
+            MessageBoxes::ask(this, QMessageBox::Question, QStringLiteral("ZUL"),
+                              QStringLiteral("Remove object from project ? !\n"),
+                              {QMessageBox::No, QMessageBox::Yes, QMessageBox::Cancel});
+        if (answer == QMessageBox::Cancel) {
+            event->ignore();
+            return;
+        }
+        policy = answer == QMessageBox::Yes ? removeObject : keepObject;
+    }
+    closeByPolicy(policy, event);
+    if (event->isAccepted()) {
+        detach();
+    }
+}
+
+int DialogBase::objectId() const
+{
+    return m_object != nullptr ? m_object->id() : noObject;
+}
+
+void DialogBase::closeByPolicy(int policy, QCloseEvent* event)
+{
+    switch (policy) {
+    case keepObject:
+        emit signalDeleteDialog(objectId());
+        event->accept();
+        break;
+    case removeObject:
+        emit signalDeleteObject(objectId());
+        event->accept();
+        break;
+    default:
+        break;
+    }
+}
+
+void DialogBase::detach()
+{
+    // A closed window is deleted only when control returns to the event loop. Its object may have a
+    // new one by then, and is not to be saved as having a window before.
+    if (m_object != nullptr && m_object->dialog() == this) {
+        m_object->setDialog(nullptr);
+    }
+    m_object = nullptr;
+}
+
+} // namespace gui

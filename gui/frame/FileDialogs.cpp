@@ -1,0 +1,66 @@
+#include "gui/frame/FileDialogs.h"
+
+#include <QFileDialog>
+
+#include <optional>
+
+namespace gui {
+
+namespace {
+
+struct State
+{
+    std::optional<QString> nextFileName;
+    QString lastTitle;
+    QString lastFilter;
+};
+
+State& state()
+{
+    static State instance;
+    return instance;
+}
+
+template <typename Chooser>
+QString choose(const QString& title, const QString& filter, Chooser chooser)
+{
+    state().lastTitle = title;
+    state().lastFilter = filter;
+    if (state().nextFileName) {
+        const QString path = *state().nextFileName;
+        state().nextFileName.reset();
+        return path;
+    }
+    return chooser();
+}
+
+} // namespace
+
+QString FileDialogs::openFile(QWidget* parent, const QString& title, const QString& filter)
+{
+    return choose(title, filter,
+                  [&] { return QFileDialog::getOpenFileName(parent, title, QString(), filter); });
+}
+
+QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QString& filter)
+{
+    return choose(title, filter,
+                  [&] { return QFileDialog::getSaveFileName(parent, title, QString(), filter); });
+}
+
+void FileDialogs::setNextFileName(const QString& path)
+{
+    state().nextFileName = path;
+}
+
+QString FileDialogs::lastTitle()
+{
+    return state().lastTitle;
+}
+
+QString FileDialogs::lastFilter()
+{
+    return state().lastFilter;
+}
+
+} // namespace gui

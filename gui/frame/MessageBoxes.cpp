@@ -1,0 +1,86 @@
+#include "gui/frame/MessageBoxes.h"
+
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace gui {
+
+namespace {
+
+struct State
+{
+    std::optional<QMessageBox::StandardButton> nextAnswer;
+    int count = 0;
+    MessageBoxes::Question last;
+};
+
+State& state()
+{
+    static State instance;
+    return instance;
+}
+
+QString buttonText(QMessageBox::StandardButton button)
+{
+    switch (button) {
+    case QMessageBox::Yes:
+        return QStringLiteral("Yes");
+    case QMessageBox::No:
+        return QStringLiteral("No");
+    case QMessageBox::Cancel:
+        return QStringLiteral("Cancel");
+    default:
+        return QStringLiteral("Ok");
+    }
+}
+
+} // namespace
+
+QMessageBox::StandardButton
+MessageBoxes::ask(QWidget* parent, QMessageBox::Icon icon, const QString& title,
+                  const QString& text, const std::vector<QMessageBox::StandardButton>& buttons)
+{
+    ++state().count;
+    state().last = {icon, title, text, buttons};
+    if (state().nextAnswer) {
+        const auto answer = *state().nextAnswer;
+        state().nextAnswer.reset();
+        return answer;
+    }
+    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    // One role for all: a desktop's own order of roles would move the buttons.
+    std::vector<QPushButton*> made;
+    for (const auto button : buttons) {
+        made.push_back(box.addButton(buttonText(button), QMessageBox::ActionRole));
+    }
+    if (!made.empty()) {
+        box.setDefaultButton(made.front());
+        box.setEscapeButton(made.back());
+    }
+    box.exec();
+    for (std::size_t i = 0; i < made.size(); ++i) {
+        if (box.clickedButton() == made[i]) {
+            return buttons[i];
+        }
+    }
+    return buttons.empty() ? QMessageBox::NoButton : buttons.back();
+}
+
+void MessageBoxes::setNextAnswer(QMessageBox::StandardButton answer)
+{
+    state().nextAnswer = answer;
+}
+
+int MessageBoxes::count()
+{
+    return state().count;
+}
+
+const MessageBoxes::Question& MessageBoxes::last()
+{
+    return state().last;
+}
+
+} // namespace gui

@@ -1,0 +1,5 @@
+#include "gui/frame/MessageGuiAboutDialog.h"
+
+MessageGuiAboutDialog::MessageGuiAboutDialog() : Message(messageType) {}
+
+MessageGuiAboutDialog::~MessageGuiAboutDialog() = default;

@@ -1,0 +1,298 @@
+#include "gui/frame/WidgetHeader.h"
+
+#include "core/Clock.h"
+#include "gui/frame/WidgetInterfaceSelect.h"
+#include "project/ObjectTypes.h"
+
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QToolButton>
+
+namespace {
+
+constexpr QColor activeColor(0, 150, 0);
+constexpr QColor filterColor(240, 140, 0);
+constexpr QColor idleColor(150, 150, 150);
+
+constexpr int counterFontPixels = 10;
+constexpr int filterFontPixels = 12;
+constexpr int iconExtent = 16;
+constexpr int hexadecimal = 1;
+
+void setForeground(QWidget& widget, const QColor& color)
+{
+    QPalette colors = widget.palette();
+    colors.setColor(widget.foregroundRole(), color);
+    widget.setPalette(colors);
+}
+
+QIcon icon(const char* name)
+{
+    return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
+}
+
+} // namespace
+
+WidgetHeader::WidgetHeader(QWidget* parent)
+    : QToolBar(parent),
+      m_inputInterface(allInterfacesName()),
+      m_outputInterface(allInterfacesName())
+{
+    setIconSize({iconExtent, iconExtent});
+    setMovable(false);
+    buildInput();
+    addSeparator();
+    buildFilter();
+    addSeparator();
+    m_setup = makeButton(QStringLiteral("Dialog Setup"), QStringLiteral("dialogSetup"));
+    m_setup->setIcon(icon("dialog-setup"));
+    m_numberFormat =
+        makeButton(QStringLiteral("Decimal/Hex Display"), QStringLiteral("numberFormat"));
+    addSeparator();
+    buildCustomArea();
+    addSeparator();
+    buildOutput();
+    connectControls();
+    refresh();
+}
+
+QLabel* WidgetHeader::makeCounter(const QString& toolTip, const QString& objectName)
+{
+    auto* counter = new QLabel(QStringLiteral("0000"), this);
+    QFont font(QStringLiteral("Courier"));
+    font.setStyleHint(QFont::TypeWriter);
+    font.setPixelSize(counterFontPixels);
+    font.setBold(true);
+    counter->setFont(font);
+    counter->setToolTip(toolTip);
+    counter->setObjectName(objectName);
+    counter->setMargin(2);
+    addWidget(counter);
+    return counter;
+}
+
+QToolButton* WidgetHeader::makeButton(const QString& toolTip, const QString& objectName)
+{
+    auto* button = new QToolButton(this);
+    button->setToolTip(toolTip);
+    button->setObjectName(objectName);
+    button->setAutoRaise(true);
+    addWidget(button);
+    return button;
+}
+
+void WidgetHeader::buildInput()
+{
+    m_inputSelect = new gui::WidgetInterfaceSelect(this);
+    m_inputSelect->setObjectName(QStringLiteral("inputSelect"));
+    addWidget(m_inputSelect);
+    m_inputCounter = makeCounter(QStringLiteral("Input Activity"), QStringLiteral("inputCounter"));
+    m_inputSwitch =
+        makeButton(QStringLiteral("Enable/Disable Input"), QStringLiteral("inputSwitch"));
+}
+
+void WidgetHeader::buildFilter()
+{
+    m_filterSwitch =
+        makeButton(QStringLiteral("Enable/Disable Filter"), QStringLiteral("filterSwitch"));
+    m_filterSwitch->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_filterSetup = makeButton(QStringLiteral("Filter Setup"), QStringLiteral("filterSetup"));
+    m_filterSetup->setIcon(icon("filter-setup"));
+}
+
+void WidgetHeader::buildCustomArea()
+{
+    auto* area = new QWidget(this);
+    area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_customArea = new QHBoxLayout(area);
+    m_customArea->setContentsMargins(0, 0, 0, 0);
+    addWidget(area);
+}
+
+void WidgetHeader::buildOutput()
+{
+    m_outputSwitch =
+        makeButton(QStringLiteral("Enable/Disable Output"), QStringLiteral("outputSwitch"));
+    m_outputCounter =
+        makeCounter(QStringLiteral("Output Activity"), QStringLiteral("outputCounter"));
+    m_outputSelect = new gui::WidgetInterfaceSelect(this);
+    m_outputSelect->setObjectName(QStringLiteral("outputSelect"));
+    addWidget(m_outputSelect);
+}
+
+void WidgetHeader::connectControls()
+{
+    using gui::WidgetInterfaceSelect;
+    connect(m_inputSelect, &WidgetInterfaceSelect::signalChanged, this,
+            &WidgetHeader::slotInputInterface);
+    connect(m_inputSwitch, &QToolButton::clicked, this, &WidgetHeader::slotInput);
+    connect(m_filterSwitch, &QToolButton::clicked, this, &WidgetHeader::slotFilter);
+    connect(m_filterSetup, &QToolButton::clicked, this, &WidgetHeader::slotFilterSetup);
+    connect(m_setup, &QToolButton::clicked, this, &WidgetHeader::slotSetup);
+    connect(m_numberFormat, &QToolButton::clicked, this, &WidgetHeader::slotNumberType);
+    connect(m_outputSwitch, &QToolButton::clicked, this, &WidgetHeader::slotOutput);
+    connect(m_outputSelect, &WidgetInterfaceSelect::signalChanged, this,
+            &WidgetHeader::slotOutputInterface);
+}
+
+void WidgetHeader::setMode(Mode mode)
+{
+    const bool hasInput = mode != Mode::Output;
+    const bool hasOutput = mode != Mode::Input;
+    for (QWidget* control :
+         {static_cast<QWidget*>(m_inputSelect), static_cast<QWidget*>(m_inputCounter),
+          static_cast<QWidget*>(m_inputSwitch), static_cast<QWidget*>(m_filterSwitch),
+          static_cast<QWidget*>(m_filterSetup)}) {
+        control->setEnabled(hasInput);
+    }
+    for (QWidget* control :
+         {static_cast<QWidget*>(m_outputSwitch), static_cast<QWidget*>(m_outputCounter),
+          static_cast<QWidget*>(m_outputSelect)}) {
+        control->setEnabled(hasOutput);
+    }
+}
+
+void WidgetHeader::setInputOn(bool on)
+{
+    m_inputOn = on;
+    refresh();
+}
+
+void WidgetHeader::setOutputOn(bool on)
+{
+    m_outputOn = on;
+    refresh();
+}
+
+void WidgetHeader::setFilterOn(bool on)
+{
+    m_filterOn = on;
+    refresh();
+}
+
+void WidgetHeader::setNumberType(int numberType)
+{
+    m_numberType = numberType;
+    refresh();
+}
+
+void WidgetHeader::setInputInterface(const QString& name)
+{
+    m_inputInterface = name;
+    refresh();
+}
+
+void WidgetHeader::setOutputInterface(const QString& name)
+{
+    m_outputInterface = name;
+    refresh();
+}
+
+void WidgetHeader::setInputCount(std::uint32_t count)
+{
+    if (m_input.setCount(count, zul::wallClock())) {
+        m_paletteDirty = true;
+    }
+    refreshCounters();
+}
+
+void WidgetHeader::setOutputCount(std::uint32_t count)
+{
+    m_output.setCountQuietly(count);
+    refreshCounters();
+}
+
+void WidgetHeader::addCustomWidget(QWidget* widget)
+{
+    m_customArea->addWidget(widget);
+}
+
+void WidgetHeader::addCustomStretch()
+{
+    m_customArea->addStretch();
+}
+
+void WidgetHeader::slotInput()
+{
+    m_inputOn = !m_inputOn;
+    emit signalInputOn(m_inputOn);
+    refresh();
+}
+
+void WidgetHeader::slotFilter()
+{
+    m_filterOn = !m_filterOn;
+    emit signalFilterOn(m_filterOn);
+    refresh();
+}
+
+void WidgetHeader::slotFilterSetup()
+{
+    emit signalFilterSetup();
+}
+
+void WidgetHeader::slotSetup()
+{
+    emit signalSetup();
+}
+
+void WidgetHeader::slotNumberType()
+{
+    m_numberType = m_numberType == hexadecimal ? 0 : hexadecimal;
+    emit signalNumberType(m_numberType);
+    refresh();
+}
+
+void WidgetHeader::slotOutput()
+{
+    m_outputOn = !m_outputOn;
+    emit signalOutputOn(m_outputOn);
+    refresh();
+}
+
+void WidgetHeader::slotInputInterface(const QString& name)
+{
+    m_inputInterface = name;
+    emit signalInputInterface(name);
+}
+
+void WidgetHeader::slotOutputInterface(const QString& name)
+{
+    m_outputInterface = name;
+    emit signalOutputInterface(name);
+}
+
+void WidgetHeader::refresh()
+{
+    m_inputSelect->setInterface(m_inputInterface);
+    m_outputSelect->setInterface(m_outputInterface);
+    m_inputSwitch->setIcon(icon(m_inputOn ? "input-on" : "input-off"));
+    m_outputSwitch->setIcon(icon(m_outputOn ? "output-on" : "output-off"));
+    m_numberFormat->setText(m_numberType == hexadecimal ? QStringLiteral("Hex\n0x1")
+                                                        : QStringLiteral("Dec\n123"));
+    refreshFilter();
+    refreshCounters();
+}
+
+void WidgetHeader::refreshFilter()
+{
+    QFont font = m_filterSwitch->font();
+    font.setPixelSize(filterFontPixels);
+    font.setBold(m_filterOn);
+    m_filterSwitch->setFont(font);
+    m_filterSwitch->setText(m_filterOn ? QStringLiteral("Filter on")
+                                       : QStringLiteral("Filter off"));
+    setForeground(*m_filterSwitch, m_filterOn ? filterColor : idleColor);
+}
+
+void WidgetHeader::refreshCounters()
+{
+    if (m_paletteDirty) {
+        m_paletteDirty = false;
+        setForeground(*m_inputCounter, m_input.isLit() ? activeColor : idleColor);
+        setForeground(*m_outputCounter, m_output.isLit() ? activeColor : idleColor);
+    }
+    m_inputCounter->setText(m_input.text());
+    m_outputCounter->setText(m_output.text());
+}

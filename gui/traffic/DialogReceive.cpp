@@ -1,0 +1,247 @@
+#include "gui/traffic/DialogReceive.h"
+
+#include "core/Clock.h"
+#include "core/Latin1.h"
+#include "gui/controls/Colors.h"
+#include "gui/controls/QwtComboBox.h"
+#include "gui/controls/QwtPushButton.h"
+#include "gui/frame/MessageGuiDialog.h"
+#include "gui/frame/WidgetHeader.h"
+#include "gui/traffic/ReceiveTree.h"
+#include "message/MessageContainer.h"
+#include "project/ObjectReceive.h"
+#include "project/Project.h"
+#include "traffic/MessageModes.h"
+
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace gui {
+
+namespace {
+
+constexpr int minimumWidthPixels = 350;
+constexpr int clearButtonHeight = 22;
+constexpr QSize firstSize(550, 300);
+
+} // namespace
+
+DialogReceive::DialogReceive(ObjectReceive* object, QWidget* parent)
+    : DialogBase(object, parent), m_receive(object), m_timer(new QTimer(this))
+{
+    build();
+    connectControls();
+    m_timer->setSingleShot(true);
+    m_timer->start(paintPeriodMs);
+    updateDialog();
+    m_columnSet = canColumnSet;
+}
+
+DialogReceive::~DialogReceive() = default;
+
+void DialogReceive::build()
+{
+    m_header = new WidgetHeader(this);
+    m_header->setMode(WidgetHeader::Mode::Input);
+    m_tree = new ReceiveTree(this);
+    m_tree->setObjectName(QStringLiteral("receiveTree"));
+    m_displayMode = new QwtComboBox(0, this);
+    m_displayMode->setObjectName(QStringLiteral("displayMode"));
+    m_displayMode->addItem(QStringLiteral("CAN"), static_cast<int>(DisplayMode::Can));
+    auto* clear = new QwtPushButton(QStringLiteral("Clear"), colors::clear, this);
+    clear->setObjectName(QStringLiteral("clear"));
+    clear->setFixedHeight(clearButtonHeight);
+    connect(clear, &QwtPushButton::clicked, this, &DialogReceive::slotClear);
+    m_menu = new QMenu(this);
+    connect(m_menu->addAction(QStringLiteral("Open Dial Dialog")), &QAction::triggered, this,
+            &DialogReceive::slotDial);
+
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(m_displayMode);
+    bottom->addStretch();
+    bottom->addWidget(clear);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_header);
+    layout->addWidget(m_tree, 1);
+    layout->addLayout(bottom);
+    setMinimumWidth(minimumWidthPixels);
+    resize(firstSize);
+}
+
+void DialogReceive::connectControls()
+{
+    connect(m_header, &WidgetHeader::signalInputOn, this, &DialogReceive::slotInputOn);
+    connect(m_header, &WidgetHeader::signalFilterOn, this, &DialogReceive::slotFilterOn);
+    connect(m_header, &WidgetHeader::signalSetup, this, &DialogReceive::slotSetup);
+    connect(m_header, &WidgetHeader::signalInputInterface, this,
+            &DialogReceive::slotInputInterface);
+    connect(m_header, &WidgetHeader::signalOutputOn, this, &DialogReceive::slotOutputOn);
+    connect(m_header, &WidgetHeader::signalNumberType, this, &DialogReceive::slotNumberType);
+    connect(m_displayMode, QOverload<int>::of(&QwtComboBox::signalActivated), this,
+            &DialogReceive::slotDisplayMode);
+    connect(m_tree, &QTreeWidget::itemDoubleClicked, this, &DialogReceive::slotDoubleClick);
+    connect(m_tree, &QTreeWidget::currentItemChanged, this, &DialogReceive::slotItemChanged);
+    connect(m_timer, &QTimer::timeout, this, &DialogReceive::slotTimeout);
+}
+
+void DialogReceive::setObject(Object* object)
+{
+    DialogBase::setObject(object);
+    m_receive = dynamic_cast<ObjectReceive*>(object);
+}
+
+void DialogReceive::receive(MessageContainer& batch)
+{
+    if (m_receive == nullptr ||
+        (m_inputInterface != allInterfaces && m_inputInterface != batch.srcDest())) {
+        return;
+    }
+    const auto& settings = m_receive->settings();
+    m_table.update(batch, settings.inputOn, m_receive->filter(), zul::wallClock());
+    m_tree->addMissingRows(m_table, settings.numberType);
+}
+
+void DialogReceive::updateDialog()
+{
+    if (m_receive == nullptr) {
+        return;
+    }
+    const QScopedValueRollback<bool> guard(m_updating, true);
+    const auto& settings = m_receive->settings();
+    m_inputInterface = zul::toLatin1(settings.inputInterface);
+    m_header->setInputOn(settings.inputOn);
+    m_header->setFilterOn(m_receive->filter().isOn());
+    m_header->setOutputOn(false);
+    m_header->setInputInterface(settings.inputInterface);
+    m_header->setNumberType(settings.numberType);
+    m_displayMode->setData(settings.displayMode);
+}
+
+void DialogReceive::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (m_currentItem != nullptr) {
+        m_menu->exec(event->globalPos());
+    }
+}
+
+void DialogReceive::slotDoubleClick(QTreeWidgetItem*, int)
+{
+    requestDial();
+}
+
+void DialogReceive::slotItemChanged(QTreeWidgetItem* pItem, QTreeWidgetItem*)
+{
+    m_currentItem = pItem;
+}
+
+// These three have nothing to do here; they let the header be wired alike in all windows.
+void DialogReceive::slotDiscrete(bool) {}
+void DialogReceive::slotSetup() {}
+void DialogReceive::slotOutputOn(bool) {}
+
+void DialogReceive::slotDial(bool)
+{
+    requestDial();
+}
+
+void DialogReceive::slotInputOn(bool on)
+{
+    if (!m_updating && m_receive != nullptr) {
+        m_receive->settings().inputOn = on;
+        markEdited();
+    }
+}
+
+void DialogReceive::slotFilterOn(bool on)
+{
+    if (!m_updating && m_receive != nullptr) {
+        m_receive->filter().setOn(on);
+        markEdited();
+    }
+}
+
+void DialogReceive::slotInputInterface(const QString& name)
+{
+    if (m_receive != nullptr) {
+        m_receive->settings().inputInterface = name;
+        m_inputInterface = zul::toLatin1(name);
+        markEdited();
+    }
+}
+
+void DialogReceive::slotDisplayMode(int mode)
+{
+    if (m_updating || m_receive == nullptr) {
+        return;
+    }
+    m_receive->settings().displayMode = mode;
+    markEdited();
+    m_columnSet = canColumnSet;
+    // Deliberate: the first switch empties the rows in any case, since no column set was last.
+    if (m_columnSet != m_lastColumnSet) {
+        clearRows();
+        m_lastColumnSet = m_columnSet;
+    }
+    repaintAll();
+}
+
+void DialogReceive::slotNumberType(int mode)
+{
+    if (m_receive != nullptr) {
+        m_receive->settings().numberType = mode;
+        markEdited();
+        repaintAll();
+    }
+}
+
+void DialogReceive::slotClear()
+{
+    if (!m_updating) {
+        clearRows();
+    }
+}
+
+void DialogReceive::slotTimeout()
+{
+    if (m_receive != nullptr) {
+        m_tree->paintDirtyRows(m_table, m_receive->settings().numberType);
+    }
+    m_header->setInputCount(m_table.receivedTotal());
+    m_timer->start(paintPeriodMs); // last, so that slow painting cannot pile up
+}
+
+void DialogReceive::markEdited()
+{
+    if (m_receive->project() != nullptr) {
+        m_receive->project()->markEdited();
+    }
+}
+
+void DialogReceive::clearRows()
+{
+    m_tree->clearRows();
+    m_table.clear();
+    m_currentItem = nullptr;
+}
+
+void DialogReceive::repaintAll()
+{
+    m_table.markAllDirty();
+    m_tree->paintDirtyRows(m_table, m_receive->settings().numberType);
+}
+
+void DialogReceive::requestDial()
+{
+    if (m_currentItem == nullptr) {
+        return;
+    }
+    // Deliberate: items of this column set carry no identifier, so that 0 goes out.
+    const int id = m_currentItem->data(0, Qt::UserRole).toInt();
+    guiRequest(std::make_unique<MessageGuiDialog>(static_cast<int>(ObjectType::Dial), id));
+}
+
+} // namespace gui

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "gui/frame/DialogBase.h"
+#include "traffic/ReceiveTable.h"
+
+#include <string>
+
+class ObjectReceive;
+class QMenu;
+class QTimer;
+class QTreeWidgetItem;
+class WidgetHeader;
+
+namespace gui {
+
+class QwtComboBox;
+class ReceiveTree;
+
+/// The live table of the bus: one row for each identifier, updated in place. Arriving frames only
+/// change the rows' records; a timer paints what has changed.
+class DialogReceive : public DialogBase
+{
+    Q_OBJECT
+
+public:
+    /// Pause between the end of one painting and the start of the next, in milliseconds.
+    static constexpr int paintPeriodMs = 100;
+
+    /// `object` is null or outlives the window's pairing with it.
+    DialogReceive(ObjectReceive* object, QWidget* parent);
+    ~DialogReceive() override;
+
+    void setObject(Object* object) override;
+    void receive(MessageContainer& batch) override;
+    void updateDialog() override;
+
+    const ReceiveTable& table() const { return m_table; }
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private slots:
+    void slotDoubleClick(QTreeWidgetItem* pItem, int column);
+    void slotItemChanged(QTreeWidgetItem* pItem, QTreeWidgetItem* pItem1);
+    void slotDiscrete(bool trigger);
+    void slotDial(bool trigger);
+    void slotInputOn(bool on);
+    void slotFilterOn(bool on);
+    void slotSetup();
+    void slotInputInterface(const QString& name);
+    void slotOutputOn(bool on);
+    void slotDisplayMode(int mode);
+    void slotNumberType(int mode);
+    void slotClear();
+    void slotTimeout();
+
+private:
+    /// Columns that display modes have in common.
+    static constexpr int noColumnSet = -1;
+    static constexpr int canColumnSet = 1; ///< the display modes CAN and CANaerospace
+
+    void build();
+    void connectControls();
+    void markEdited();
+    void clearRows();
+    void repaintAll();
+    void requestDial();
+
+    ObjectReceive* m_receive;
+    ReceiveTable m_table;
+    std::string m_inputInterface; // of the object, as batches name it
+    QTreeWidgetItem* m_currentItem = nullptr;
+    int m_columnSet = 0;
+    int m_lastColumnSet = noColumnSet;
+    bool m_updating = false;
+
+    WidgetHeader* m_header = nullptr;
+    ReceiveTree* m_tree = nullptr;
+    QwtComboBox* m_displayMode = nullptr;
+    QMenu* m_menu = nullptr;
+    QTimer* m_timer = nullptr;
+};
+
+} // namespace gui

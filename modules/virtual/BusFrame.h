@@ -1,0 +1,70 @@
+#pragma once
+
+#include "message/MessageCan.h"
+#include "modules/virtual/BusTime.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace canvirtual {
+
+using FrameType = zul::MessageCan::EFrameType;
+using FrameMode = zul::MessageCan::EMsgMode;
+
+constexpr std::uint32_t maxStandardId = 0x7FF;
+constexpr std::uint32_t maxExtendedId = 0x1FFFFFFF;
+constexpr std::uint32_t maxClassicBytes = 8;
+constexpr std::uint32_t maxFdBytes = 64;
+
+/// One frame as the bus carries it; `message/` has the form that leaves the module.
+struct BusFrame
+{
+    std::array<std::uint8_t, static_cast<std::size_t>(maxFdBytes)> data{}; ///< 0 from byteCount on
+    std::uint32_t id = 0;
+    std::uint32_t byteCount = 0;
+    FrameType type = FrameType::Data;
+    FrameMode mode = FrameMode::Standard;
+    BusTime time = 0; ///< end of the frame's last bit (of EOF, or of the error delimiter)
+};
+
+constexpr bool isExtended(FrameMode mode)
+{
+    return (static_cast<std::uint32_t>(mode) & 1U) != 0;
+}
+
+constexpr bool isFd(FrameMode mode)
+{
+    return static_cast<std::uint32_t>(mode) >= static_cast<std::uint32_t>(FrameMode::StandardFd);
+}
+
+constexpr bool hasBitRateSwitch(FrameMode mode)
+{
+    return static_cast<std::uint32_t>(mode) >= static_cast<std::uint32_t>(FrameMode::StandardFdBrs);
+}
+
+/// Number of payload bytes that the wire carries for `byteCount` bytes (ISO 11898-1, DLC coding):
+/// classic frames up to 8, FD frames the next of 0 to 8, 12, 16, 20, 24, 32, 48, 64.
+std::uint32_t wireByteCount(FrameMode mode, std::uint32_t byteCount);
+
+/// The 4-bit data length code of a payload size that `wireByteCount` returned.
+std::uint32_t dataLengthCode(std::uint32_t byteCount);
+
+/// The arbitration field as a number: of two frames that start together the lower one wins. A
+/// standard frame beats an extended one of the same base identifier, a data frame the remote one.
+std::uint32_t arbitrationPriority(const BusFrame& frame);
+
+/// Why `message` cannot be sent, or an empty text if it can: an identifier too large for its mode,
+/// an error frame, an FD remote frame (there are none), or an unknown mode or type.
+std::string frameProblem(const zul::MessageCan& message);
+
+/// The frame that the wire carries for `message`, which must have no `frameProblem`. The byte count
+/// is bounded and rounded up as a controller does; bytes added that way are 0.
+BusFrame frameFromMessage(const zul::MessageCan& message);
+
+/// A new message of `frame`.
+std::unique_ptr<zul::MessageCan> messageFromFrame(const BusFrame& frame);
+
+} // namespace canvirtual

@@ -1,0 +1,226 @@
+#include "modules/virtual/BusPort.h"
+
+#include "modules/virtual/ScenarioFactory.h"
+
+#include <algorithm>
+
+namespace canvirtual {
+
+namespace {
+
+/// Recessive bits that a passive controller waits after its own frame, on top of the intermission.
+constexpr int suspendBits = 8;
+
+/// Bits of the frame and of the intermission after it.
+std::uint64_t windowBits(const WireFrame& wire)
+{
+    const int bits = wire.pending.bits.total() + intermissionBits;
+    return static_cast<std::uint64_t>(bits);
+}
+
+} // namespace
+
+BusPort::BusPort(const PortSettings& settings, BusTime openedAt)
+    : m_settings(settings),
+      m_scenario(makeScenario(settings.scenario, openedAt)),
+      m_controller(duration({1, 0}, settings.rates)),
+      m_bitTime(duration({1, 0}, settings.rates)),
+      m_windowStart(openedAt),
+      m_nextReport(openedAt + reportInterval)
+{
+}
+
+bool BusPort::queue(const PendingFrame& frame)
+{
+    if (m_queue.size() >= transmitCapacity) {
+        return false;
+    }
+    m_queue.push_back(frame);
+    return true;
+}
+
+BusTime BusPort::ownReadyAt(const PendingFrame* head) const
+{
+    if (head == nullptr) {
+        return never;
+    }
+    const BusTime readyAt = std::max(head->readyAt, m_suspendedUntil);
+    return m_controller.isBusOff() ? std::max(readyAt, m_controller.recoversAt()) : readyAt;
+}
+
+BusTime BusPort::readyAt() const
+{
+    BusTime earliest = ownReadyAt(m_schedule.head());
+    if (!m_queue.empty()) {
+        earliest = std::min(earliest, ownReadyAt(&m_queue.front()));
+    }
+    if (m_scenario != nullptr) {
+        earliest = std::min(earliest, m_scenario->readyAt());
+    }
+    return earliest;
+}
+
+const PendingFrame* BusPort::offer(BusTime start, FrameSource& source)
+{
+    const PendingFrame* best = nullptr;
+    const auto compare = [&best, &source](const PendingFrame* frame, FrameSource from) {
+        if (best == nullptr || frame->priority < best->priority) {
+            best = frame;
+            source = from;
+        }
+    };
+    if (!m_queue.empty() && ownReadyAt(&m_queue.front()) <= start) {
+        compare(&m_queue.front(), FrameSource::Queue);
+    }
+    if (ownReadyAt(m_schedule.head()) <= start) {
+        compare(m_schedule.head(), FrameSource::Schedule);
+    }
+    if (m_scenario != nullptr && m_scenario->readyAt() <= start) {
+        compare(&m_scenario->offer(start), FrameSource::Scenario);
+    }
+    return best;
+}
+
+void BusPort::taken(FrameSource source, BusTime end)
+{
+    switch (source) {
+    case FrameSource::Queue:
+        m_queue.pop_front();
+        break;
+    case FrameSource::Schedule:
+        m_schedule.pop();
+        break;
+    case FrameSource::Scenario:
+        m_scenario->sent(end);
+        return;
+    }
+    if (m_controller.isPassive()) {
+        m_suspendedUntil = end + (intermissionBits + suspendBits) * m_bitTime;
+    }
+}
+
+void BusPort::observe(const WireFrame& wire, bool ownFrame)
+{
+    if (m_lost || m_controller.isBusOff()) {
+        return;
+    }
+    if (wire.pending.fate == FrameFate::Arrives) {
+        countFrame(wire, ownFrame && wire.source != FrameSource::Scenario);
+    } else {
+        countError(wire, ownFrame);
+    }
+}
+
+void BusPort::countFrame(const WireFrame& wire, bool ownFrame)
+{
+    const std::uint64_t bits = windowBits(wire);
+    if (ownFrame) {
+        m_controller.transmitted();
+        ++m_counters.sent;
+        ++m_window.sentFrames;
+        m_window.sentBits += bits;
+        if (!m_settings.receiveOwn) {
+            return;
+        }
+    } else {
+        m_controller.received();
+        ++m_counters.received;
+        ++m_window.receivedFrames;
+        m_window.receivedBits += bits;
+    }
+    store(wire, wire.pending.frame.type);
+}
+
+void BusPort::countError(const WireFrame& wire, bool ownFrame)
+{
+    ++m_counters.errorFrames;
+    m_window.receivedBits += windowBits(wire);
+    if (ownFrame && wire.pending.fate == FrameFate::OwnDestroyed) {
+        m_controller.transmitError(wire.end);
+        m_counters.busOff += m_controller.isBusOff() ? 1U : 0U;
+    } else {
+        m_controller.receiveError();
+    }
+    store(wire, FrameType::Error);
+}
+
+void BusPort::store(const WireFrame& wire, FrameType type)
+{
+    if (m_received.size() >= receiveCapacity) {
+        ++m_counters.lost;
+        return;
+    }
+    if (type == FrameType::Error) {
+        BusFrame& frame = m_received.emplace_back();
+        frame.type = type;
+        frame.time = wire.end;
+        return;
+    }
+    m_received.push_back(wire.pending.frame);
+    m_received.back().time = wire.end;
+}
+
+void BusPort::settle(BusTime time)
+{
+    m_controller.update(time);
+    if (m_scenario != nullptr && time >= m_scenario->lostAt()) {
+        lose();
+    }
+}
+
+void BusPort::lose()
+{
+    m_lost = true;
+    m_scenario.reset();
+    m_queue.clear();
+    m_schedule.clear();
+    m_received.clear();
+}
+
+void BusPort::skipTo(BusTime time)
+{
+    if (m_scenario != nullptr) {
+        m_scenario->skipTo(time);
+    }
+}
+
+DeviceStatus BusPort::status() const
+{
+    return m_lost ? DeviceStatus::Closed : m_controller.status();
+}
+
+bool BusPort::isReportDue(BusTime now)
+{
+    if (now < m_nextReport) {
+        return false;
+    }
+    m_nextReport += reportInterval;
+    if (m_nextReport <= now) {
+        m_nextReport = now + reportInterval;
+    }
+    return true;
+}
+
+PortReport BusPort::report(BusTime now)
+{
+    PortReport report;
+    report.counters = m_counters;
+    report.window = m_window;
+    report.elapsed = now - m_windowStart;
+    report.status = status();
+    report.transmitErrors = m_controller.transmitErrors();
+    report.receiveErrors = m_controller.receiveErrors();
+    report.queued = m_queue.size();
+    report.scheduled = m_schedule.left();
+    m_window = PortWindow();
+    m_windowStart = now;
+    return report;
+}
+
+void BusPort::clearCounters()
+{
+    m_counters = PortCounters();
+    m_nextReport = m_windowStart;
+}
+
+} // namespace canvirtual

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "project/ObjectTypeInfo.h"
+#include "project/WindowObject.h"
+
+#include <array>
+
+/// The settings of a Function Gen. Control window.
+class ObjectFunctionGen : public WindowObject
+{
+public:
+    struct Settings
+    {
+        bool inputOn = true;
+        bool outputOn = true;
+        QString inputInterface = allInterfacesName();
+        QString outputInterface = allInterfacesName();
+    };
+
+    struct Generator
+    {
+        std::int32_t nodeId = 0;
+        std::int32_t nodeBaseId = 0;
+        std::int32_t baudrate = 0;
+    };
+
+    struct Signal
+    {
+        std::int32_t channel = 0; ///< index of the signal
+        bool active = true;
+        std::int32_t waveForm = 0;
+        std::uint32_t canId = 1230;
+        std::int32_t dataType = 2;
+        std::int32_t frequencyFactor = 1;
+        std::int32_t amplitudeFactor = 1;
+        std::int32_t offsetFactor = 1;
+        double frequency = 1.0;
+        double amplitude = 1.0;
+        double offset = 0.0;
+        std::int32_t separation = 10;
+    };
+
+    static constexpr std::size_t signalCount = 4;
+    using Signals = std::array<Signal, signalCount>;
+
+    ObjectFunctionGen();
+    ~ObjectFunctionGen() override;
+
+    static std::unique_ptr<Object> create();
+    static ObjectTypeInfo typeInfo();
+
+    Settings& settings() { return m_settings; }
+    const Settings& settings() const { return m_settings; }
+    Generator& generator() { return m_generator; }
+    const Generator& generator() const { return m_generator; }
+    Signals& channels() { return m_channels; }
+    const Signals& channels() const { return m_channels; }
+
+protected:
+    void writeMode(RecordWriter& writer) const override;
+    void readMode(RecordReader& reader) override;
+    void writeChildren(QDomDocument& document, QDomElement& element) const override;
+    void readChild(const QDomElement& element) override;
+
+private:
+    Settings m_settings;
+    Generator m_generator;
+    Signals m_channels;
+};

@@ -1,0 +1,112 @@
+#include "project/ObjectGraph.h"
+
+namespace {
+
+const QString graphTag = QStringLiteral("Graph");
+const QString messageTag = QStringLiteral("Message");
+
+template <typename Archive, typename Record>
+void describe(Archive& archive, Record& record)
+{
+    archive.field("inputOn", record.inputOn);
+    archive.field("inputInterface", record.inputInterface, allInterfacesName());
+}
+
+template <typename Archive, typename Record>
+void describeGraph(Archive& archive, Record& graph)
+{
+    archive.field("xRange", graph.xRange);
+    archive.field("splitMode", graph.splitMode);
+    archive.field("autoMode", graph.autoMode);
+    archive.field("cursorMode", graph.cursorMode);
+    archive.field("backgroundColor", graph.backgroundColor);
+    archive.field("gridOn", graph.gridOn);
+    archive.field("gridColor", graph.gridColor);
+    archive.field("labelColor", graph.labelColor);
+    archive.field("labelBackColor", graph.labelBackColor);
+    archive.field("cursorOn", graph.cursorOn);
+    archive.field("legendOn", graph.legendOn);
+    archive.field("autoScale", graph.autoScale);
+    archive.field("yMin", graph.yMin);
+    archive.field("yMax", graph.yMax);
+}
+
+template <typename Archive, typename Record>
+void describeParameter(Archive& archive, Record& parameter)
+{
+    archive.field("active", parameter.active);
+    archive.field("id", parameter.id);
+    archive.field("nme", parameter.name);
+    archive.field("pun", parameter.unit);
+    archive.field("color", parameter.color);
+    archive.field("type", parameter.kind);
+    archive.field("dtc", parameter.dataTypeCode);
+    archive.field("sppByte", parameter.startByte);
+    archive.field("sppBit", parameter.startBit);
+    archive.field("eppByte", parameter.endByte);
+    archive.field("eppBit", parameter.endBit);
+    archive.field("min", parameter.min);
+    archive.field("max", parameter.max);
+    archive.field("lsb", parameter.lsb);
+    archive.field("endian", parameter.endian);
+    archive.field("showSamples", parameter.showSamples);
+    archive.field("autoScale", parameter.autoScale);
+    archive.field("yMin", parameter.yMin);
+    archive.field("yMax", parameter.yMax);
+    archive.field("scaleOffset", parameter.scaleOffset);
+    archive.field("scaleFactor", parameter.scaleFactor);
+}
+
+} // namespace
+
+ObjectGraph::ObjectGraph() : m_parameters(1) {}
+
+ObjectGraph::~ObjectGraph() = default;
+
+std::unique_ptr<Object> ObjectGraph::create()
+{
+    return std::make_unique<ObjectGraph>();
+}
+
+ObjectTypeInfo ObjectGraph::typeInfo()
+{
+    return makeObjectTypeInfo(ObjectType::Graph, &ObjectGraph::create);
+}
+
+void ObjectGraph::writeMode(RecordWriter& writer) const
+{
+    describe(writer, m_settings);
+}
+
+void ObjectGraph::readMode(RecordReader& reader)
+{
+    describe(reader, m_settings);
+}
+
+void ObjectGraph::writeChildrenAfterFilter(QDomDocument& document, QDomElement& element) const
+{
+    QDomElement graph = addElement(document, element, graphTag);
+    RecordWriter graphWriter(document, graph);
+    describeGraph(graphWriter, m_graph);
+    for (const GraphParameter& parameter : m_parameters) {
+        RecordWriter writer(document, addElement(document, graph, messageTag));
+        describeParameter(writer, parameter);
+    }
+}
+
+void ObjectGraph::readChild(const QDomElement& element)
+{
+    if (element.tagName() != graphTag) {
+        return;
+    }
+    RecordReader graphReader(element);
+    describeGraph(graphReader, m_graph);
+    m_parameters.clear();
+    for (QDomElement child = element.firstChildElement(messageTag); !child.isNull();
+         child = child.nextSiblingElement(messageTag)) {
+        GraphParameter parameter;
+        RecordReader reader(child);
+        describeParameter(reader, parameter);
+        m_parameters.push_back(parameter);
+    }
+}
