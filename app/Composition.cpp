@@ -17,7 +17,6 @@
 #include <QIcon>
 
 #include <functional>
-#include <utility>
 
 namespace app {
 
@@ -38,7 +37,7 @@ ObjectTypeInfo withIcon(ObjectTypeInfo info, const char* name)
 
 // Every window gets its type's title and its object's name in one place.
 void registerMaker(ObjectType type, const char* typeTitle, const char* iconName,
-                   std::function<gui::DialogBase*(Object&, QWidget*)> make)
+                   const std::function<gui::DialogBase*(Object&, QWidget*)>& make)
 {
     WindowMakers::instance().set(type, [=](Object& object, QWidget* parent) -> ObjectWindow* {
         gui::DialogBase* dialog = make(object, parent);

@@ -84,7 +84,8 @@ void CanInterface::writeXml(QDomDocument& document, QDomElement& parent)
     const DeviceInfo info =
         zul::guardedCall("info", DeviceInfo(), [this] { return device()->info(); });
     QDomElement deviceElement = addElement(document, element, deviceTag);
-    writeString(document, deviceElement, idAttribute, info.moduleName);
+    writeString(document, deviceElement, idAttribute,
+                info.moduleName.empty() ? m_moduleName : info.moduleName);
     for (const auto& [key, value] : *device()->properties()) {
         QDomElement property = addElement(document, element, propertyTag);
         writeString(document, property, idAttribute, key);
@@ -148,6 +149,7 @@ bool CanInterface::selectDevice(const std::string& moduleName)
         zul::guardedCall("close", false, [old] { return old->close(); });
         delete old;
     }
+    m_moduleName = moduleName;
     m_link->setDevice(ModuleRegistry::instance().createDevice(moduleName));
     return device() != nullptr;
 }

@@ -65,6 +65,7 @@ private:
 
     LoadEstimator m_estimator;
     bool m_statusDriven = false;
+    std::string m_moduleName; // as it was selected, for a device that fails to tell
     std::shared_ptr<DeviceLink> m_link = std::make_shared<DeviceLink>();
     std::unique_ptr<CanRead> m_reader; // null until the first connection
 };

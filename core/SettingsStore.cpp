@@ -22,14 +22,12 @@ SettingsStore& SettingsStore::instance()
 void SettingsStore::setFile(const QString& path)
 {
     m_path = path;
-    m_fileBroken = false;
 }
 
 void SettingsStore::load()
 {
     QDomDocument document;
-    const zul::XmlLoad result = zul::loadXmlFile(m_path, document);
-    m_fileBroken = result == zul::XmlLoad::Broken;
+    zul::loadXmlFile(m_path, document);
     const QDomElement root = document.documentElement();
     for (QDomElement child = root.firstChildElement(propertyTag); !child.isNull();
          child = child.nextSiblingElement(propertyTag)) {
@@ -47,10 +45,6 @@ void SettingsStore::save()
             zul::XmlHandler::writeString(document, property, idAttribute, key);
             zul::XmlHandler::writeString(document, property, valueAttribute, value);
         }
-    }
-    if (m_fileBroken) {
-        zul::keepAside(m_path);
-        m_fileBroken = false;
     }
     zul::XmlHandler::saveDocument(document, m_path);
 }

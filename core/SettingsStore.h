@@ -33,5 +33,4 @@ public:
 private:
     std::map<QString, QString> m_values;
     QString m_path;
-    bool m_fileBroken = false;
 };

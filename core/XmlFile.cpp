@@ -1,9 +1,12 @@
 #include "core/XmlFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QTextStream>
 #include <QXmlInputSource>
+
+#include <set>
 
 namespace zul {
 
@@ -95,12 +98,41 @@ QString decoded(const QByteArray& bytes)
     return source.data();
 }
 
+// The files that could not be read, by their canonical paths.
+std::set<QString>& brokenFiles()
+{
+    static auto* files = new std::set<QString>;
+    return *files;
+}
+
+// The path itself where there is no such file yet.
+QString canonicalPath(const QString& path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? path : canonical;
+}
+
+bool keepAside(const QString& path)
+{
+    const QString aside = path + QStringLiteral(".bak");
+    const QString newest = aside + QStringLiteral(".new");
+    QFile::remove(newest);
+    // The older copy goes only when the newer one is safe.
+    if (!QFile::rename(path, newest)) {
+        return false;
+    }
+    QFile::remove(aside);
+    QFile::rename(newest, aside);
+    return true;
+}
+
 } // namespace
 
 XmlLoad loadXmlFile(const QString& path, QDomDocument& document, QString* reason)
 {
     document = QDomDocument();
-    const auto broken = [reason](const QString& text) {
+    const auto broken = [reason, &path](const QString& text) {
+        rememberBroken(path);
         if (reason != nullptr) {
             *reason = text;
         }
@@ -108,7 +140,7 @@ XmlLoad loadXmlFile(const QString& path, QDomDocument& document, QString* reason
     };
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return XmlLoad::Absent;
+        return QFileInfo(path).isFile() ? broken(file.errorString()) : XmlLoad::Absent;
     }
     // One byte more than allowed tells a file that is too large, also where size() knows nothing.
     const QByteArray bytes = file.read(maxXmlBytes + 1);
@@ -125,12 +157,24 @@ XmlLoad loadXmlFile(const QString& path, QDomDocument& document, QString* reason
         document = QDomDocument();
         return broken(error);
     }
+    brokenFiles().erase(canonicalPath(path));
     return XmlLoad::Loaded;
+}
+
+void rememberBroken(const QString& path)
+{
+    brokenFiles().insert(canonicalPath(path));
 }
 
 bool saveXmlFile(const QDomDocument& document, const QString& path)
 {
-    QSaveFile file(path);
+    // Where a link leads to, so that the link stays one.
+    const QString target = canonicalPath(path);
+    if (brokenFiles().erase(target) != 0 && !keepAside(target)) {
+        rememberBroken(target);
+        return false;
+    }
+    QSaveFile file(target);
     file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
@@ -144,13 +188,6 @@ bool saveXmlFile(const QDomDocument& document, const QString& path)
         file.cancelWriting();
     }
     return file.commit();
-}
-
-void keepAside(const QString& path)
-{
-    const QString aside = path + QStringLiteral(".bak");
-    QFile::remove(aside);
-    QFile::rename(path, aside);
 }
 
 } // namespace zul

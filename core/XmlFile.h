@@ -16,8 +16,9 @@ enum class XmlLoad {
 /// tree by recursion, so that a hostile file could exhaust the stack.
 inline constexpr int maxXmlDepth = 200;
 
-/// Largest file that is read, in bytes. In memory a document takes some ten times its file.
-inline constexpr qint64 maxXmlBytes = qint64{64} * 1024 * 1024;
+/// Largest file that is read, in bytes: some 30,000 transmit lines. A hostile file of that size
+/// takes about half a gigabyte in memory.
+inline constexpr qint64 maxXmlBytes = qint64{8} * 1024 * 1024;
 
 /// Reads the file into `document`. What `QDomDocument` cannot parse to the end counts as not
 /// loaded: nothing that stands before the error is taken, and `document` is left empty. A document
@@ -25,13 +26,17 @@ inline constexpr qint64 maxXmlBytes = qint64{64} * 1024 * 1024;
 /// `reason`, if not null, takes why a file is broken; nothing is printed.
 XmlLoad loadXmlFile(const QString& path, QDomDocument& document, QString* reason = nullptr);
 
+/// Remembers that the file's content could not be taken, as `loadXmlFile` does with a broken one:
+/// what is written over it later is kept aside first. Main thread only.
+void rememberBroken(const QString& path);
+
 /// Writes the document with an indent of 4, in UTF-8. The file is replaced in one step: if anything
 /// fails, the old file stays whole and the result is false. Only in a directory in which no file
 /// can be made is the file itself written over.
+///
+/// A file that could not be read is renamed before, to the same name with ".bak" behind it; an
+/// older
+/// ".bak" goes. If that fails, nothing is written.
 bool saveXmlFile(const QDomDocument& document, const QString& path);
-
-/// Renames a file that could not be read to the same name with ".bak" behind it, before it is
-/// written over. An older ".bak" goes.
-void keepAside(const QString& path);
 
 } // namespace zul

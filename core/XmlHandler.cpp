@@ -5,6 +5,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace zul {
@@ -59,7 +60,11 @@ int XmlHandler::readInt(const QDomNamedNodeMap& attributes, const QString& name,
 
 double XmlHandler::readDouble(const QDomNamedNodeMap& attributes, const QString& name, double def)
 {
-    return attributes.contains(name) ? attributes.namedItem(name).nodeValue().toDouble() : def;
+    if (!attributes.contains(name)) {
+        return def;
+    }
+    const double value = attributes.namedItem(name).nodeValue().toDouble();
+    return std::isfinite(value) ? value : 0.0; // toDouble takes "inf" and "nan"
 }
 
 QString XmlHandler::readString(const QDomNamedNodeMap& attributes, const QString& name,

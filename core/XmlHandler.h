@@ -17,7 +17,7 @@ public:
     static bool readBool(const QDomNamedNodeMap& attributes, const QString& name, bool def);
     /// Decimal; text that is no number gives 0, not the default.
     static int readInt(const QDomNamedNodeMap& attributes, const QString& name, int def);
-    /// Text that is no number gives 0, not the default.
+    /// Text that is no number, or no finite one, gives 0, not the default.
     static double readDouble(const QDomNamedNodeMap& attributes, const QString& name, double def);
     static QString readString(const QDomNamedNodeMap& attributes, const QString& name,
                               const QString& def);

@@ -8,15 +8,11 @@ bool Filter::matches(std::uint32_t id) const
     if (!m_on) {
         return true;
     }
-    switch (static_cast<Type>(m_type)) {
-    case Type::Limit: {
-        const auto value = static_cast<std::int32_t>(id);
-        return value >= m_minId && value <= m_maxId;
-    }
-    case Type::Single:
+    if (m_type != static_cast<std::int32_t>(Type::Limit)) {
         return std::binary_search(m_ids.begin(), m_ids.end(), id);
     }
-    return false;
+    const auto value = static_cast<std::int32_t>(id);
+    return value >= m_minId && value <= m_maxId;
 }
 
 void Filter::setMin(std::int32_t value)
@@ -37,6 +33,13 @@ void Filter::addId(std::uint32_t id)
     if (place == m_ids.end() || *place != id) {
         m_ids.insert(place, id);
     }
+}
+
+void Filter::setIds(std::vector<std::uint32_t> ids)
+{
+    m_ids = std::move(ids);
+    std::sort(m_ids.begin(), m_ids.end());
+    m_ids.erase(std::unique(m_ids.begin(), m_ids.end()), m_ids.end());
 }
 
 void Filter::removeId(std::uint32_t id)

@@ -17,7 +17,7 @@ public:
 
     /// The decision of all windows, on the identifier with all its bits. True while the filter is
     /// off. The limits are compared as signed numbers, so an identifier with bit 31 set fails them.
-    /// A type that is neither of the two rejects everything.
+    /// A type that is neither of the two counts as `Single`.
     bool matches(std::uint32_t id) const;
 
     std::int32_t type() const { return m_type; }
@@ -36,6 +36,8 @@ public:
     /// The single identifiers, each once, in ascending order.
     const std::vector<std::uint32_t>& ids() const { return m_ids; }
     void addId(std::uint32_t id);
+    /// Replaces the list; the order does not matter, nor do duplicates.
+    void setIds(std::vector<std::uint32_t> ids);
     void removeId(std::uint32_t id);
     void clearIds();
 

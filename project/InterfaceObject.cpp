@@ -1,6 +1,6 @@
 #include "project/InterfaceObject.h"
 
-InterfaceObject::InterfaceObject() = default;
+InterfaceObject::InterfaceObject() : Object(ObjectType::CanInterface) {}
 
 InterfaceObject::~InterfaceObject() = default;
 

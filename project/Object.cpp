@@ -20,7 +20,7 @@ int nextId()
 
 } // namespace
 
-Object::Object() : m_id(nextId()) {}
+Object::Object(ObjectType type) : m_type(type), m_id(nextId()) {}
 
 Object::~Object()
 {
@@ -77,8 +77,11 @@ void Object::receive(MessageContainer& batch)
 
 void Object::send(MessageContainer& batch)
 {
-    for (const auto& output : m_outputs) {
-        output.second->receive(batch);
+    // By id and not by iterator: a window may delete objects while it handles its batch.
+    for (auto next = m_outputs.begin(); next != m_outputs.end();) {
+        const int id = next->first;
+        next->second->receive(batch);
+        next = m_outputs.upper_bound(id);
     }
 }
 

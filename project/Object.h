@@ -25,7 +25,7 @@ public:
     static constexpr int defaultWidth = 600;
     static constexpr int defaultHeight = 400;
 
-    Object();
+    explicit Object(ObjectType type);
     /// Takes itself out of the wiring and tells an open window that it is gone.
     virtual ~Object();
     Object(const Object&) = delete;
@@ -89,7 +89,7 @@ private:
     Wires m_outputs;
     Wires m_inputs;
     ObjectWindow* m_dialog = nullptr;
-    ObjectType m_type = ObjectType::None;
+    ObjectType m_type;
     int m_id;
     QString m_name = QStringLiteral("unnamed");
     bool m_open = true;

@@ -31,7 +31,7 @@ void describeColor(Archive& archive, Record& color)
 
 } // namespace
 
-ObjectDial::ObjectDial() = default;
+ObjectDial::ObjectDial() : WindowObject(ObjectType::Dial) {}
 
 ObjectDial::~ObjectDial() = default;
 

@@ -23,7 +23,7 @@ public:
         QString inputInterface = allInterfacesName();
     };
 
-    /// Components 0 to 255.
+    /// Components, 0 to 255 in what the window writes.
     struct Color
     {
         std::int32_t red = 200;

@@ -43,7 +43,7 @@ void describeSignal(Archive& archive, Record& signal)
 
 } // namespace
 
-ObjectFunctionGen::ObjectFunctionGen()
+ObjectFunctionGen::ObjectFunctionGen() : WindowObject(ObjectType::FunctionGen)
 {
     for (std::size_t i = 0; i < signalCount; ++i) {
         m_channels[i].channel = static_cast<std::int32_t>(i);
@@ -77,7 +77,7 @@ void ObjectFunctionGen::writeChildren(QDomDocument& document, QDomElement& eleme
     QDomElement generator = addElement(document, element, generatorTag);
     RecordWriter generatorWriter(document, generator);
     describeGenerator(generatorWriter, m_generator);
-    for (const Signal& signal : m_channels) {
+    for (const GeneratorChannel& signal : m_channels) {
         RecordWriter writer(document, addElement(document, generator, signalTag));
         describeSignal(writer, signal);
     }
@@ -92,7 +92,7 @@ void ObjectFunctionGen::readChild(const QDomElement& element)
     describeGenerator(generatorReader, m_generator);
     for (QDomElement child = element.firstChildElement(signalTag); !child.isNull();
          child = child.nextSiblingElement(signalTag)) {
-        Signal signal;
+        GeneratorChannel signal;
         RecordReader reader(child);
         describeSignal(reader, signal);
         signal.channel = std::clamp(signal.channel, 0, static_cast<std::int32_t>(signalCount) - 1);

@@ -24,7 +24,7 @@ public:
         std::int32_t baudrate = 0;
     };
 
-    struct Signal
+    struct GeneratorChannel
     {
         std::int32_t channel = 0; ///< index of the signal
         bool active = true;
@@ -34,14 +34,14 @@ public:
         std::int32_t frequencyFactor = 1;
         std::int32_t amplitudeFactor = 1;
         std::int32_t offsetFactor = 1;
-        double frequency = 1.0;
-        double amplitude = 1.0;
-        double offset = 0.0;
+        float frequency = 1.0F;
+        float amplitude = 1.0F;
+        float offset = 0.0F;
         std::int32_t separation = 10;
     };
 
     static constexpr std::size_t signalCount = 4;
-    using Signals = std::array<Signal, signalCount>;
+    using Signals = std::array<GeneratorChannel, signalCount>;
 
     ObjectFunctionGen();
     ~ObjectFunctionGen() override;

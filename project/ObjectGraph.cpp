@@ -54,12 +54,12 @@ void describeParameter(Archive& archive, Record& parameter)
     archive.field("yMin", parameter.yMin);
     archive.field("yMax", parameter.yMax);
     archive.field("scaleOffset", parameter.scaleOffset);
-    archive.field("scaleFactor", parameter.scaleFactor);
+    archive.field("scaleFactor", parameter.scaleFactor, 1.0);
 }
 
 } // namespace
 
-ObjectGraph::ObjectGraph() : m_parameters(1) {}
+ObjectGraph::ObjectGraph() : WindowObject(ObjectType::Graph), m_parameters(1) {}
 
 ObjectGraph::~ObjectGraph() = default;
 

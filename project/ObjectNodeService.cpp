@@ -12,7 +12,7 @@ void describe(Archive& archive, Record& record)
 
 } // namespace
 
-ObjectNodeService::ObjectNodeService() = default;
+ObjectNodeService::ObjectNodeService() : WindowObject(ObjectType::NodeService) {}
 
 ObjectNodeService::~ObjectNodeService() = default;
 

@@ -13,7 +13,7 @@ void describe(Archive& archive, Record& record)
 
 } // namespace
 
-ObjectReceive::ObjectReceive() = default;
+ObjectReceive::ObjectReceive() : WindowObject(ObjectType::Receive) {}
 
 ObjectReceive::~ObjectReceive() = default;
 

@@ -16,7 +16,7 @@ void describe(Archive& archive, Record& record)
 
 } // namespace
 
-ObjectReplay::ObjectReplay() = default;
+ObjectReplay::ObjectReplay() : WindowObject(ObjectType::Replay) {}
 
 ObjectReplay::~ObjectReplay() = default;
 

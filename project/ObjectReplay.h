@@ -12,7 +12,7 @@ public:
         bool outputOn = true;
         std::int32_t displayMode =
             0; ///< 0 CAN, 3 CANaerospace, 4 ARINC 825 Raw, 6 ARINC 825 Profile
-        std::int32_t numberType = 0; ///< 0 decimal, 1 hexadecimal
+        std::int32_t numberType = 0; ///< stored only
         std::int32_t traceFormat = 0;
         QString inputInterface = allInterfacesName();
         QString outputInterface = allInterfacesName();

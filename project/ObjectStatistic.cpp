@@ -13,7 +13,7 @@ void describe(Archive& archive, Record& record)
 
 } // namespace
 
-ObjectStatistic::ObjectStatistic() = default;
+ObjectStatistic::ObjectStatistic() : WindowObject(ObjectType::Statistic) {}
 
 ObjectStatistic::~ObjectStatistic() = default;
 

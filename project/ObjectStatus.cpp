@@ -2,7 +2,7 @@
 
 #include "project/WindowMakers.h"
 
-ObjectStatus::ObjectStatus() = default;
+ObjectStatus::ObjectStatus() : Object(ObjectType::Status) {}
 
 ObjectStatus::~ObjectStatus() = default;
 

@@ -15,7 +15,7 @@ void describe(Archive& archive, Record& record)
 
 } // namespace
 
-ObjectTrace::ObjectTrace() = default;
+ObjectTrace::ObjectTrace() : WindowObject(ObjectType::Trace) {}
 
 ObjectTrace::~ObjectTrace() = default;
 

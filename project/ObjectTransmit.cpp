@@ -59,7 +59,7 @@ void readPayload(const QString& text, zul::MessageData& data)
 
 } // namespace
 
-ObjectTransmit::ObjectTransmit() = default;
+ObjectTransmit::ObjectTransmit() : WindowObject(ObjectType::Transmit) {}
 
 ObjectTransmit::~ObjectTransmit() = default;
 

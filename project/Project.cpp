@@ -76,8 +76,11 @@ bool Project::renameObject(int id, const QString& name)
 
 void Project::poll()
 {
-    for (const auto& interface : m_interfaces) {
-        interface.second->poll();
+    // By id and not by iterator: a window may delete objects while it handles its batch.
+    for (auto next = m_interfaces.begin(); next != m_interfaces.end();) {
+        const int id = next->first;
+        next->second->poll();
+        next = m_interfaces.upper_bound(id);
     }
 }
 
@@ -100,7 +103,6 @@ void Project::clear()
     }
     m_fileName.clear();
     m_edited = false;
-    m_fileBroken = false;
 }
 
 bool Project::load(const QString& path)
@@ -110,11 +112,12 @@ bool Project::load(const QString& path)
     m_fileName = fileName;
     m_window = WindowRectangle();
     QDomDocument document;
-    m_fileBroken = zul::loadXmlFile(m_fileName, document) == zul::XmlLoad::Broken;
+    zul::loadXmlFile(m_fileName, document);
     const QDomElement root = document.documentElement();
-    for (QDomElement element = root.firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
-        readElement(element);
+    if (objectCount(root) > maxObjects) {
+        zul::rememberBroken(m_fileName);
+    } else {
+        readObjects(root);
     }
     m_edited = false;
     m_window.width = std::max(m_window.width, minimumExtent);
@@ -126,11 +129,6 @@ bool Project::save(const QString& path)
 {
     if (!path.isEmpty() && path != m_fileName) {
         m_fileName = path;
-        m_fileBroken = false;
-    }
-    if (m_fileBroken) {
-        zul::keepAside(m_fileName);
-        m_fileBroken = false;
     }
     Xml::saveDocument(toDocument(), m_fileName);
     m_edited = false;
@@ -159,6 +157,24 @@ void Project::wire(Object& object)
             object.addOutput(&other);
             other.addOutput(&object);
         }
+    }
+}
+
+int Project::objectCount(const QDomElement& root) const
+{
+    int count = 0;
+    for (QDomElement element = root.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement()) {
+        count += static_cast<int>(m_typesByTag.count(element.tagName()));
+    }
+    return count;
+}
+
+void Project::readObjects(const QDomElement& root)
+{
+    for (QDomElement element = root.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement()) {
+        readElement(element);
     }
 }
 

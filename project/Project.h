@@ -26,6 +26,10 @@ public:
         int height = 768;
     };
 
+    /// A file with more objects counts as one that cannot be read: each window is wired to each
+    /// interface, and each open one is shown.
+    static constexpr int maxObjects = 1000;
+
     /// Registers the types, and opens `defaultFile`. If that is missing, the project is empty and
     /// its first save makes the file.
     Project(std::vector<ObjectTypeInfo> types, const QString& defaultFile);
@@ -72,13 +76,14 @@ public:
 private:
     void insert(std::unique_ptr<Object> object, ObjectType type);
     void wire(Object& object);
+    int objectCount(const QDomElement& root) const;
+    void readObjects(const QDomElement& root);
     void readElement(const QDomElement& element);
     void readTopLevelWindow(const QDomElement& element);
     QDomDocument toDocument() const;
 
     QString m_fileName;
     bool m_edited = false;
-    bool m_fileBroken = false;
     Types m_typesById;
     std::map<QString, ObjectType> m_typesByTag;
     Objects m_objects;

@@ -2,6 +2,9 @@
 
 #include "project/WindowMakers.h"
 
+#include <utility>
+#include <vector>
+
 namespace {
 
 const QString windowTag = QStringLiteral("Window");
@@ -12,7 +15,7 @@ const QString idAttribute = QStringLiteral("id");
 
 } // namespace
 
-WindowObject::WindowObject() = default;
+WindowObject::WindowObject(ObjectType type) : Object(type) {}
 
 WindowObject::~WindowObject() = default;
 
@@ -103,8 +106,10 @@ void WindowObject::readFilter(const QDomElement& element)
     m_filter.setType(type);
     m_filter.setMin(minId);
     m_filter.setMax(maxId);
+    std::vector<std::uint32_t> ids;
     for (QDomElement child = element.firstChildElement(filterIdTag); !child.isNull();
          child = child.nextSiblingElement(filterIdTag)) {
-        m_filter.addId(static_cast<std::uint32_t>(readInt(child.attributes(), idAttribute, 0)));
+        ids.push_back(static_cast<std::uint32_t>(readInt(child.attributes(), idAttribute, 0)));
     }
+    m_filter.setIds(std::move(ids));
 }

@@ -12,7 +12,7 @@
 class WindowObject : public Object
 {
 public:
-    WindowObject();
+    explicit WindowObject(ObjectType type);
     ~WindowObject() override;
 
     ObjectWindow* createDialog(QWidget* parent) override;

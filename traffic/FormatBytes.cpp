@@ -10,6 +10,9 @@ constexpr std::size_t lineSize = payloadLineCapacity;
 
 std::int64_t bytesInLine(const zul::MessageCan& frame, int offset)
 {
+    if (offset < 0 || offset >= zul::MessageData::size) {
+        return 0;
+    }
     const std::int64_t left = static_cast<std::int64_t>(frame.byteCount()) - offset;
     return std::min<std::int64_t>(left, bytesPerLine);
 }

@@ -11,6 +11,22 @@ enum class DisplayMode : std::int32_t {
     Arinc825Profile = 6
 };
 
+/// How the traffic windows name a display mode; null where a window does not offer it.
+struct DisplayModeTexts
+{
+    DisplayMode mode;
+    const char* receive;
+    const char* transmit;
+    const char* trace;
+};
+
+inline constexpr std::array<DisplayModeTexts, 4> displayModes{{
+    {DisplayMode::Can, "CAN", "CAN", "CAN"},
+    {DisplayMode::CanAerospace, "CANaerospace", "CANaerospace", "CANaerospace"},
+    {DisplayMode::Arinc825Raw, "ARINC 825 Raw", "ARINC 825 Raw", nullptr},
+    {DisplayMode::Arinc825Profile, "ARINC 825 Profile", nullptr, "ARINC-825"},
+}};
+
 /// How numbers are shown. The numbers are stored in project files.
 enum class NumberType : std::int32_t { Decimal = 0, Hexadecimal = 1 };
 

@@ -1,6 +1,7 @@
 #include "gui/controls/NumberText.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 
 namespace gui {
@@ -13,14 +14,19 @@ QString numberText(int value, int numberType)
     case 1:
         return QString::asprintf("0x%X", static_cast<unsigned>(value));
     default:
-        return QString();
+        return {};
     }
 }
 
 int numberFromText(const QString& text)
 {
     constexpr int detectBase = 0;
-    const qlonglong value = text.trimmed().toLongLong(nullptr, detectBase);
+    const QString number = text.trimmed();
+    const qlonglong value = number.toLongLong(nullptr, detectBase);
+    constexpr qlonglong allBits = std::numeric_limits<std::uint32_t>::max();
+    if (value <= allBits && number.startsWith(QLatin1String("0x"), Qt::CaseInsensitive)) {
+        return static_cast<int>(static_cast<std::uint32_t>(value));
+    }
     constexpr qlonglong low = std::numeric_limits<int>::min();
     constexpr qlonglong high = std::numeric_limits<int>::max();
     return static_cast<int>(std::clamp(value, low, high));

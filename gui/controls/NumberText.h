@@ -8,7 +8,8 @@ namespace gui {
 QString numberText(int value, int numberType);
 
 /// The number that `text` stands for, its base taken from its prefix; clamped to what an int holds,
-/// and 0 for text that is no number.
+/// and 0 for text that is no number. Hexadecimal text of 32 bits keeps its bits, so that what
+/// `numberText` makes of a negative value reads back.
 int numberFromText(const QString& text);
 
 } // namespace gui

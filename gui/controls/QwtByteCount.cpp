@@ -3,6 +3,8 @@
 #include "gui/controls/NumberText.h"
 #include "traffic/MessageModes.h"
 
+#include <QSignalBlocker>
+
 namespace gui {
 
 QwtByteCount::QwtByteCount(int index, QWidget* parent) : QSpinBox(parent), m_index(index)
@@ -25,6 +27,7 @@ int QwtByteCount::byteCount() const
 void QwtByteCount::setNumberType(int numberType)
 {
     m_numberType = numberType;
+    const QSignalBlocker blocker(lineEdit()); // the text is not to be read back as a value
     lineEdit()->setText(textFromValue(value()));
 }
 

@@ -6,7 +6,7 @@ QwtLabel::QwtLabel(int index, QWidget* parent) : QLabel(parent), m_index(index) 
 
 void QwtLabel::mouseDoubleClickEvent(QMouseEvent*)
 {
-    emit signalDoubleClicked();
+    emit signalDoubleClicked(m_index);
 }
 
 } // namespace gui

@@ -15,7 +15,7 @@ public:
     int index() const { return m_index; }
 
 signals:
-    void signalDoubleClicked();
+    void signalDoubleClicked(int index);
 
 protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -7,8 +7,9 @@ QwtPushButton::QwtPushButton(int index, QWidget* parent) : QPushButton(parent), 
     connect(this, &QPushButton::clicked, this, [this] { emit signalClicked(m_index); });
 }
 
-QwtPushButton::QwtPushButton(const QString& text, const QColor& background, QWidget* parent)
-    : QwtPushButton(0, parent)
+QwtPushButton::QwtPushButton(const QString& text, const QColor& background, QWidget* parent,
+                             int index)
+    : QwtPushButton(index, parent)
 {
     setText(text);
     QPalette colors = palette();

@@ -11,7 +11,8 @@ class QwtPushButton : public QPushButton
 
 public:
     explicit QwtPushButton(int index = 0, QWidget* parent = nullptr);
-    QwtPushButton(const QString& text, const QColor& background, QWidget* parent = nullptr);
+    QwtPushButton(const QString& text, const QColor& background, QWidget* parent = nullptr,
+                  int index = 0);
 
 signals:
     void signalClicked(int index);

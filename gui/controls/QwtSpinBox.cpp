@@ -2,6 +2,8 @@
 
 #include "gui/controls/NumberText.h"
 
+#include <QSignalBlocker>
+
 namespace gui {
 
 QwtSpinBox::QwtSpinBox(int index, QWidget* parent) : QSpinBox(parent), m_index(index)
@@ -13,6 +15,7 @@ QwtSpinBox::QwtSpinBox(int index, QWidget* parent) : QSpinBox(parent), m_index(i
 void QwtSpinBox::setNumberType(int numberType)
 {
     m_numberType = numberType;
+    const QSignalBlocker blocker(lineEdit()); // the text is not to be read back as a value
     lineEdit()->setText(textFromValue(value()));
 }
 

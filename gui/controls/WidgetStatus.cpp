@@ -18,6 +18,7 @@ WidgetStatus::WidgetStatus(QWidget* parent)
       m_label(new QLabel(QStringLiteral("Status "), this)),
       m_value(new QLineEdit(this))
 {
+    m_label->setTextFormat(Qt::PlainText);
     m_label->setFixedWidth(labelWidth);
     m_value->setReadOnly(true);
     m_value->setAutoFillBackground(true);

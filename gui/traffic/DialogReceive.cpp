@@ -61,7 +61,8 @@ void DialogReceive::build()
     m_tree->setObjectName(QStringLiteral("receiveTree"));
     m_displayMode = new QwtComboBox(0, this);
     m_displayMode->setObjectName(QStringLiteral("displayMode"));
-    m_displayMode->addItem(QStringLiteral("CAN"), static_cast<int>(DisplayMode::Can));
+    m_displayMode->addItem(QLatin1String(displayModes[0].receive),
+                           static_cast<int>(displayModes[0].mode));
     auto* clear = new QwtPushButton(QStringLiteral("Clear"), colors::clear, this);
     clear->setObjectName(QStringLiteral("clear"));
     clear->setFixedHeight(clearButtonHeight);
@@ -114,7 +115,7 @@ void DialogReceive::receive(MessageContainer& batch)
     }
     const auto& settings = m_receive->settings();
     m_table.update(batch, settings.inputOn, m_receive->filter(), zul::wallClock());
-    m_tree->addMissingRows(m_table, settings.numberType);
+    m_tree->addMissingRows(m_table, numberType());
 }
 
 void DialogReceive::updateDialog()
@@ -129,7 +130,7 @@ void DialogReceive::updateDialog()
     m_header->setFilterOn(m_receive->filter().isOn());
     m_header->setOutputOn(false);
     m_header->setInputInterface(settings.inputInterface);
-    m_header->setNumberType(settings.numberType);
+    m_header->setNumberType(numberType());
     m_displayMode->setData(settings.displayMode);
 }
 
@@ -220,10 +221,16 @@ void DialogReceive::slotClear()
 void DialogReceive::slotTimeout()
 {
     if (m_receive != nullptr) {
-        m_tree->paintDirtyRows(m_table, m_receive->settings().numberType);
+        m_tree->paintDirtyRows(m_table, numberType());
     }
     m_header->setInputCount(m_table.receivedTotal());
     m_timer->start(paintPeriodMs); // last, so that slow painting cannot pile up
+}
+
+int DialogReceive::numberType() const
+{
+    constexpr int hexadecimal = static_cast<int>(NumberType::Hexadecimal);
+    return m_receive->settings().numberType == hexadecimal ? hexadecimal : 0;
 }
 
 void DialogReceive::markEdited()
@@ -243,7 +250,7 @@ void DialogReceive::clearRows()
 void DialogReceive::repaintAll()
 {
     m_table.markAllDirty();
-    m_tree->paintDirtyRows(m_table, m_receive->settings().numberType);
+    m_tree->paintDirtyRows(m_table, numberType());
 }
 
 void DialogReceive::requestDial()

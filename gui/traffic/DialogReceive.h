@@ -64,6 +64,8 @@ private:
 
     void build();
     void connectControls();
+    /// What the object says, anything but hexadecimal being decimal.
+    int numberType() const;
     void markEdited();
     void clearRows();
     void repaintAll();

@@ -74,6 +74,8 @@ TEST(NumberText, ShowsAndReadsBothBases)
     EXPECT_EQ(numberFromText(QString()), 0);
     EXPECT_EQ(numberFromText(QStringLiteral("99999999999")), std::numeric_limits<int>::max());
     EXPECT_EQ(numberFromText(QStringLiteral("-99999999999")), std::numeric_limits<int>::min());
+    EXPECT_EQ(numberFromText(QStringLiteral("0xFFFFFFFF")), -1);
+    EXPECT_EQ(numberFromText(QStringLiteral("4294967295")), std::numeric_limits<int>::max());
 }
 
 TEST(QwtSpinBox, ReadsHexadecimalAlsoInDecimalMode)
@@ -93,8 +95,22 @@ TEST(QwtSpinBox, ReadsHexadecimalAlsoInDecimalMode)
     QTest::keyClicks(&box, QStringLiteral("99999"));
     QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_EQ(box.value(), 2047);
+    const int changes = changed.count();
     box.setNumberType(9);
     EXPECT_EQ(box.text(), QString());
+    EXPECT_EQ(box.value(), 2047); // showing another way changes no value
+    EXPECT_EQ(changed.count(), changes);
+}
+
+TEST(QwtSpinBox, NegativeValueSurvivesItsHexadecimalText)
+{
+    QwtSpinBox box;
+    box.setRange(-10, 10);
+    box.setValue(-1);
+    box.setNumberType(1);
+    EXPECT_EQ(box.text(), QStringLiteral("0xFFFFFFFF"));
+    box.interpretText();
+    EXPECT_EQ(box.value(), -1);
 }
 
 TEST(QwtByteCount, StepsThroughTheCodesAndShowsTheCounts)
@@ -112,6 +128,8 @@ TEST(QwtByteCount, StepsThroughTheCodesAndShowsTheCounts)
     box.selectAll();
     QTest::keyClicks(&box, QStringLiteral("0x40"));
     QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_EQ(box.byteCount(), 64);
+    box.setNumberType(9);
     EXPECT_EQ(box.byteCount(), 64);
     box.setValue(13); // no code stands for it
     EXPECT_EQ(box.byteCount(), 0);
@@ -138,10 +156,11 @@ TEST(QwtPushButton, RepeatsItsIndex)
 
 TEST(QwtLabel, TellsOfDoubleClicks)
 {
-    QwtLabel label;
+    QwtLabel label(9);
     const QSignalSpy clicked(&label, &QwtLabel::signalDoubleClicked);
     QTest::mouseDClick(&label, Qt::LeftButton);
-    EXPECT_EQ(clicked.count(), 1);
+    ASSERT_EQ(clicked.count(), 1);
+    EXPECT_EQ(clicked.at(0), QVariantList{9});
 }
 
 TEST(QwtHexValidator, AcceptsWhatLiesInTheRange)
@@ -167,18 +186,21 @@ TEST(QwtHexValidator, AcceptsWhatLiesInTheRange)
 TEST(QwtBarItem, SmoothsTheRateAndFloorsTheMaximum)
 {
     zul::test::SettableClock clock(100.0);
-    QwtBarItem bar(Qt::white);
+    QwtBarItem bar(6);
+    EXPECT_EQ(bar.index(), 6);
     EXPECT_EQ(bar.rate(), 0.0);
-    EXPECT_EQ(bar.maximum(), 100.0);
+    EXPECT_EQ(bar.maximum(), 100U);
     clock.advance(1.0);
-    bar.setValue(130.0, 0.0);
+    bar.setValue(130.0, 0);
     EXPECT_NEAR(bar.rate(), 130.0 / 1.3, 1e-4);
-    EXPECT_EQ(bar.maximum(), 1.0);
-    bar.setValue(50.0, 200.0);
+    EXPECT_EQ(bar.maximum(), 1U);
+    bar.setValue(50.0, 200);
     bar.resize(100, 20);
     const QImage image = bar.grab().toImage();
     EXPECT_EQ(image.pixelColor(5, 2), QColor(100, 200, 100));
     EXPECT_EQ(image.pixelColor(95, 2), QColor(Qt::white));
+    bar.setBackground(QColor(220, 255, 220));
+    EXPECT_EQ(bar.grab().toImage().pixelColor(95, 2), QColor(220, 255, 220));
 }
 
 TEST(WidgetLight, PaletteChangesOnlyWithTheState)

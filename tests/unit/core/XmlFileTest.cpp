@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -221,7 +222,7 @@ TEST_F(XmlFile, FileAboveTheLimitIsRefused)
     ASSERT_TRUE(file.resize(maxXmlBytes + 1)); // takes no room on the disk
     file.close();
     EXPECT_EQ(loadAgain(), XmlLoad::Broken);
-    EXPECT_THAT(reason.toStdString(), HasSubstr("larger than 67108864 bytes"));
+    EXPECT_THAT(reason.toStdString(), HasSubstr("larger than 8388608 bytes"));
 }
 
 TEST_F(XmlFile, EndlessFileIsRefused)
@@ -272,22 +273,43 @@ TEST_F(XmlFile, AttributesAreSavedInTheSameOrderEveryTime)
     }
 }
 
-TEST_F(XmlFile, KeepAsideReplacesAnOlderOne)
+QDomDocument documentOf(const char* root)
 {
-    home.write(fileName, "new");
-    home.write(QStringLiteral("file.xml.bak"), "old");
-    ConsoleCapture console;
-    keepAside(home.file(fileName));
-    EXPECT_EQ(home.read(QStringLiteral("file.xml.bak")), QByteArray("new"));
-    EXPECT_FALSE(home.has(fileName));
-    EXPECT_EQ(console.out(), "");
+    QDomDocument made;
+    made.appendChild(made.createElement(QLatin1String(root)));
+    return made;
 }
 
-TEST_F(XmlFile, KeepAsideOfNothingIsSilent)
+TEST_F(XmlFile, BrokenFileIsKeptWhenItIsWrittenOver)
 {
-    ConsoleCapture console;
-    keepAside(home.file(fileName));
-    EXPECT_EQ(console.out() + console.err(), "");
+    home.write(fileName + QStringLiteral(".bak"), "an older copy");
+    EXPECT_EQ(load("broken"), XmlLoad::Broken);
+    EXPECT_TRUE(saveXmlFile(documentOf("Z"), home.file(fileName)));
+    EXPECT_EQ(home.read(fileName + QStringLiteral(".bak")), QByteArray("broken"));
+    EXPECT_EQ(loadAgain(), XmlLoad::Loaded);
+    EXPECT_TRUE(saveXmlFile(documentOf("Y"), home.file(fileName)));
+    EXPECT_EQ(home.read(fileName + QStringLiteral(".bak")), QByteArray("broken"));
+}
+
+TEST_F(XmlFile, BrokenFileThatIsMendedByHandIsNotKept)
+{
+    EXPECT_EQ(load("broken"), XmlLoad::Broken);
+    EXPECT_EQ(load("<Z/>"), XmlLoad::Loaded);
+    EXPECT_TRUE(saveXmlFile(documentOf("Z"), home.file(fileName)));
+    EXPECT_FALSE(home.has(fileName + QStringLiteral(".bak")));
+}
+
+TEST_F(XmlFile, BrokenFileBehindALinkIsKeptAndTheLinkStays)
+{
+    home.write(QStringLiteral("real.xml"), "broken");
+    ASSERT_TRUE(
+        QFile::link(home.file(QStringLiteral("real.xml")), home.file(QStringLiteral("link.xml"))));
+    QDomDocument none;
+    EXPECT_EQ(loadXmlFile(home.file(QStringLiteral("link.xml")), none), XmlLoad::Broken);
+    EXPECT_TRUE(saveXmlFile(documentOf("Z"), home.file(QStringLiteral("link.xml"))));
+    EXPECT_TRUE(QFileInfo(home.file(QStringLiteral("link.xml"))).isSymLink());
+    EXPECT_TRUE(home.read(QStringLiteral("real.xml")).contains("<Z"));
+    EXPECT_EQ(home.read(QStringLiteral("real.xml.bak")), QByteArray("broken"));
 }
 
 } // namespace

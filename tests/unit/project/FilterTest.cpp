@@ -61,12 +61,13 @@ TEST(Filter, SingleWithoutIdentifiersRejectsEverything)
     EXPECT_FALSE(filter.matches(8));
 }
 
-TEST(Filter, UnknownTypeRejectsEverything)
+TEST(Filter, UnknownTypeCountsAsSingle)
 {
     Filter filter = enabled();
     filter.setType(2);
     filter.addId(7);
-    EXPECT_FALSE(filter.matches(7));
+    EXPECT_TRUE(filter.matches(7));
+    EXPECT_FALSE(filter.matches(8));
 }
 
 TEST(Filter, BoundsAreClamped)
@@ -115,6 +116,8 @@ TEST(Filter, IdentifiersStandOnceInOrder)
     filter.removeId(5);
     filter.removeId(77);
     EXPECT_EQ(filter.ids(), (std::vector<std::uint32_t>{3, 9}));
+    filter.setIds({7, 7, 2});
+    EXPECT_EQ(filter.ids(), (std::vector<std::uint32_t>{2, 7}));
     filter.clearIds();
     EXPECT_TRUE(filter.ids().empty());
 }

@@ -92,7 +92,7 @@ TEST(Object, WindowIsMadeByTheTableOfMakers)
     ObjectReceive object;
     EXPECT_EQ(object.createDialog(nullptr), nullptr);
     ProbeWindow window;
-    WindowMakers::instance().set(ObjectType::None,
+    WindowMakers::instance().set(ObjectType::Receive,
                                  [&](Object&, QWidget*) -> ObjectWindow* { return &window; });
     EXPECT_EQ(object.createDialog(nullptr), &window);
     WindowMakers::instance().clear();

@@ -266,6 +266,60 @@ TEST_F(ProjectTest, BrokenFileCountsAsNotLoadedAndIsKeptWhenItIsSavedOver)
     EXPECT_FALSE(QFile::exists(path("broken.zul.bak")));
 }
 
+TEST_F(ProjectTest, BrokenFileIsKeptAlsoWhenAnotherProjectCameInBetween)
+{
+    writeFile(path("default.zul"), "no xml");
+    m_project.load(path("default.zul"));
+    m_project.clear();
+    m_project.save(path("./default.zul"));
+    EXPECT_EQ(readFile(path("default.zul.bak")), QByteArray("no xml"));
+    EXPECT_TRUE(readFile(path("default.zul")).contains("<ZUL>"));
+}
+
+TEST_F(ProjectTest, FileWithTooManyObjectsCountsAsBroken)
+{
+    QByteArray text = "<ZUL>";
+    for (int i = 0; i <= Project::maxObjects; ++i) {
+        text += "<ObjectReceive/>";
+    }
+    text += "</ZUL>";
+    writeFile(path("many.zul"), text);
+    m_project.load(path("many.zul"));
+    EXPECT_TRUE(m_project.objects().empty());
+    m_project.save(QString());
+    EXPECT_EQ(readFile(path("many.zul.bak")), text);
+}
+
+TEST_F(ProjectTest, NamesWithAllKindsOfCharactersSurviveTheFile)
+{
+    const QString name = QString::fromUtf8("tab\there\nline \xF0\x9F\x9B\xA9 \xE6\xBC\xA2");
+    m_project.createObject(ObjectType::Receive)->setName(name + QChar(1) + QChar(0xFFFF));
+    m_project.save(path("names.zul"));
+    m_project.load(path("names.zul"));
+    ASSERT_EQ(m_project.objects().size(), 1U);
+    EXPECT_EQ(m_project.objects().begin()->second->name(), name);
+}
+
+TEST_F(ProjectTest, ObjectMayBeDeletedWhileABatchIsOnItsWay)
+{
+    ProbeInterface& bus = interface(m_project.createObject(ObjectType::CanInterface));
+    const int first = m_project.createObject(ObjectType::Receive)->id();
+    const int second = m_project.createObject(ObjectType::Receive)->id();
+    struct Deleter : ProbeWindow
+    {
+        void receive(MessageContainer&) override { project->deleteObject(victim); }
+        Project* project = nullptr;
+        int victim = 0;
+    } window;
+    window.project = &m_project;
+    window.victim = second;
+    m_project.object(first)->setDialog(&window);
+    MessageContainer batch;
+    bus.send(batch);
+    EXPECT_EQ(m_project.object(second), nullptr);
+    m_project.object(first)->setDialog(nullptr);
+}
+
 TEST_F(ProjectTest, SavingUnderAnotherNameLeavesTheBrokenFileAlone)
 {
     writeFile(path("broken.zul"), "no xml");

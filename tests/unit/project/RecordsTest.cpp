@@ -115,7 +115,7 @@ const std::vector<RecordCase>& cases()
           {"Graph/Message", "yMin", "0.000000000000", "0.000000000000"},
           {"Graph/Message", "yMax", "100.000000000000", "0.000000000000"},
           {"Graph/Message", "scaleOffset", "0.000000000000", "0.000000000000"},
-          {"Graph/Message", "scaleFactor", "1.000000000000", "0.000000000000"}},
+          {"Graph/Message", "scaleFactor", "1.000000000000", "1.000000000000"}},
          true},
         {ObjectType::Dial,
          &ObjectDial::typeInfo,
@@ -269,7 +269,7 @@ TEST_P(Records, EveryFieldSurvivesOffItsDefault)
     }
 }
 
-TEST_P(Records, MissingAttributesReadAsTold)
+TEST_P(Records, MissingAttributesReadAsZeroOrEmpty)
 {
     QDomElement element = writeFresh();
     for (const Attribute& attribute : record().attributes) {
@@ -390,6 +390,22 @@ TEST(TransmitRecord, PayloadTextIsReadGenerously)
     EXPECT_EQ(line.data[2], 8);
     EXPECT_EQ(line.data[3], 0);
     EXPECT_EQ(line.data[4], 0);
+}
+
+TEST(TransmitRecord, MissingAttributesOfALine)
+{
+    ObjectTransmit object;
+    readText(object, "<O><MessageList><Message/></MessageList></O>");
+    const SendMsg& line = *object.lines().at(0);
+    EXPECT_EQ(line.name, QStringLiteral("NoName"));
+    EXPECT_EQ(line.id, 0U);
+    EXPECT_EQ(line.byteCount, 0U);
+    EXPECT_EQ(line.mode, 0U);
+    EXPECT_EQ(line.rate, 0);
+    EXPECT_EQ(line.running, 0);
+    EXPECT_EQ(line.min, 0.0F);
+    EXPECT_EQ(line.max, 1.0F);
+    EXPECT_EQ(line.actual, 0.0F);
 }
 
 TEST(TransmitRecord, AbsurdLengthsAndLongPayloadsStayInBounds)

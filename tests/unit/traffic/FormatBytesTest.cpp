@@ -120,6 +120,27 @@ TEST(MessageModes, TableHasTheSixModes)
     EXPECT_EQ(static_cast<int>(DisplayMode::Arinc825Profile), 6);
 }
 
+TEST(DisplayModes, EveryWindowHasItsLabels)
+{
+    struct Row
+    {
+        int mode;
+        const char* receive;
+        const char* transmit;
+        const char* trace;
+    };
+    const std::array<Row, 4> expected{{{0, "CAN", "CAN", "CAN"},
+                                       {3, "CANaerospace", "CANaerospace", "CANaerospace"},
+                                       {4, "ARINC 825 Raw", "ARINC 825 Raw", nullptr},
+                                       {6, "ARINC 825 Profile", nullptr, "ARINC-825"}}};
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(static_cast<int>(displayModes[i].mode), expected[i].mode);
+        EXPECT_STREQ(displayModes[i].receive, expected[i].receive);
+        EXPECT_STREQ(displayModes[i].transmit, expected[i].transmit);
+        EXPECT_STREQ(displayModes[i].trace, expected[i].trace);
+    }
+}
+
 TEST(ByteCounts, CodesAndCountsBelongTogether)
 {
     const std::array<int, 16> expected{0, 1, 2, 3, 4, 5, 6, 7, 8, 12, 16, 20, 24, 32, 48, 64};
