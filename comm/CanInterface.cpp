@@ -198,7 +198,7 @@ DeviceStatus CanInterface::status()
 QString CanInterface::errorMessage() const
 {
     if (device() == nullptr) {
-        return QString();
+        return {};
     }
     return zul::fromLatin1(
         zul::guardedCall("errorMsg", std::string(), [this] { return device()->errorMsg(); }));

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QSpinBox>
+#include <utility>
 
 namespace {
 
@@ -51,8 +52,8 @@ void setTextIfOther(QLineEdit& edit, const QString& text)
 
 } // namespace
 
-WidgetProperty::WidgetProperty(const DeviceProperty& property, QWidget* parent)
-    : QFrame(parent), m_property(property)
+WidgetProperty::WidgetProperty(DeviceProperty property, QWidget* parent)
+    : QFrame(parent), m_property(std::move(property))
 {
     setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Raised));
     QPalette colors = palette();

@@ -27,7 +27,7 @@ QString choose(const QString& title, const QString& filter, Chooser chooser)
     state().lastTitle = title;
     state().lastFilter = filter;
     if (state().nextFileName) {
-        const QString path = *state().nextFileName;
+        QString path = *state().nextFileName;
         state().nextFileName.reset();
         return path;
     }

@@ -52,6 +52,7 @@ MessageBoxes::ask(QWidget* parent, QMessageBox::Icon icon, const QString& title,
     box.setTextFormat(Qt::PlainText);
     // One role for all: a desktop's own order of roles would move the buttons.
     std::vector<QPushButton*> made;
+    made.reserve(buttons.size());
     for (const auto button : buttons) {
         made.push_back(box.addButton(buttonText(button), QMessageBox::ActionRole));
     }

@@ -39,7 +39,7 @@ DialogReceive::DialogReceive(ObjectReceive* object, QWidget* parent)
     connectControls();
     m_timer->setSingleShot(true);
     m_timer->start(paintPeriodMs);
-    updateDialog();
+    showSettings();
     m_columnSet = canColumnSet;
 }
 
@@ -119,6 +119,11 @@ void DialogReceive::receive(MessageContainer& batch)
 }
 
 void DialogReceive::updateDialog()
+{
+    showSettings();
+}
+
+void DialogReceive::showSettings()
 {
     if (m_receive == nullptr) {
         return;

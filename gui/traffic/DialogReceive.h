@@ -64,6 +64,7 @@ private:
 
     void build();
     void connectControls();
+    void showSettings();
     /// What the object says, anything but hexadecimal being decimal.
     int numberType() const;
     void markEdited();
