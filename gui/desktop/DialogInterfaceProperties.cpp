@@ -24,7 +24,7 @@ namespace {
 constexpr int listWidth = 150; // pixels
 constexpr int gridSpacing = 5;
 constexpr int columnsOfEditor = 2;
-constexpr QSize firstSize(900, 700);
+constexpr QSize firstSize(900, 640);
 constexpr const char* interfaceNameKey = "InterfaceName";
 
 DeviceInfo infoOf(Device& device)

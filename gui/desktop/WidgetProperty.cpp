@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QSpinBox>
+
 #include <utility>
 
 namespace {
@@ -138,24 +139,22 @@ void WidgetProperty::buildBtr(QHBoxLayout& row)
 
 void WidgetProperty::buildRegister(const gui::RegisterLayout& layout, QGridLayout& grid)
 {
-    auto* choices = new QHBoxLayout;
-    addChoices(*choices, false);
     const auto columns = static_cast<int>(layout.fieldCount);
-    grid.addLayout(choices, 0, 0, 1, columns);
     m_register = new QLineEdit(this);
     m_register->setMinimumWidth(registerWidth);
     m_register->setObjectName(QLatin1String(layout.name));
-    auto* field = new QHBoxLayout;
-    field->addWidget(smallLabel(layout.name, this));
-    field->addWidget(m_register, 1);
-    grid.addLayout(field, 1, 0, 1, columns);
+    auto* value = new QHBoxLayout;
+    addChoices(*value, false);
+    value->addWidget(smallLabel(layout.name, this));
+    value->addWidget(m_register);
+    grid.addLayout(value, 0, 0, 1, columns);
     for (int i = 0; i < columns; ++i) {
         const gui::RegisterField& description = layout.fields[static_cast<std::size_t>(i)];
         auto* spin = new QSpinBox(this);
         spin->setRange(description.minimum, description.maximum);
         spin->setObjectName(QLatin1String(description.label));
-        grid.addWidget(smallLabel(description.label, this), 2, i);
-        grid.addWidget(spin, 3, i);
+        grid.addWidget(smallLabel(description.label, this), 1, i);
+        grid.addWidget(spin, 2, i);
         m_spins.push_back(spin);
     }
 }
