@@ -6,7 +6,6 @@
 #include "core/GuardedCall.h"
 #include "core/Latin1.h"
 #include "core/ModuleRegistry.h"
-#include "message/MessageContainer.h"
 #include "project/WindowMakers.h"
 
 #include <QMutexLocker>
@@ -233,7 +232,8 @@ int CanInterface::frameRate() const
 
 bool CanInterface::poll()
 {
-    MessageContainer batch = takeReceived();
+    MessageContainer batch(std::move(m_batchStorage));
+    takeReceived(batch);
     batch.setSrcDest(zul::toLatin1(name()));
     send(batch);
     Object::receive(batch); // the status window
@@ -241,6 +241,8 @@ bool CanInterface::poll()
     m_estimator.update(
         batch, m_statusDriven ? LoadEstimator::Source::Status : LoadEstimator::Source::Frames,
         m_connected, zul::wallClock());
+    batch.messages().clear();
+    m_batchStorage = std::move(batch);
     if (m_device != nullptr && m_connected && status() == DeviceStatus::Closed) {
         disconnect();
         return false;
@@ -268,19 +270,17 @@ void CanInterface::drainLocked()
     }
 }
 
-MessageContainer CanInterface::takeReceived()
+void CanInterface::takeReceived(MessageContainer& batch)
 {
-    std::vector<Message*> received;
     {
         const QMutexLocker lock(&m_mutex);
-        received.swap(m_received);
+        m_taken.swap(m_received);
     }
-    MessageContainer batch;
-    batch.messages().reserve(received.size());
-    for (Message* message : received) {
-        batch.addMessage(SmartPtr<Message>(message));
+    batch.messages().reserve(m_taken.size());
+    for (Message* message : m_taken) {
+        batch.messages().emplace_back(message);
     }
-    return batch;
+    m_taken.clear();
 }
 
 } // namespace comm

@@ -3,6 +3,7 @@
 #include "comm/CanRead.h"
 #include "comm/LoadEstimator.h"
 #include "message/Device.h"
+#include "message/MessageContainer.h"
 #include "project/InterfaceObject.h"
 #include "project/ObjectTypeInfo.h"
 
@@ -62,7 +63,7 @@ public:
 
 private:
     void drainLocked();
-    MessageContainer takeReceived();
+    void takeReceived(MessageContainer& batch);
     void readElement(const QDomElement& element);
     void readProperty(const QDomElement& element);
 
@@ -71,6 +72,10 @@ private:
     bool m_statusDriven = false;
     Device* m_device = nullptr;       // guarded by m_mutex against the reader while it is exchanged
     std::vector<Message*> m_received; // owned; guarded by m_mutex
+    // Lists of the poll before, empty: allocating large ones anew at each poll would make the
+    // allocator put all its small free blocks together, and slow down the next frames.
+    std::vector<Message*> m_taken;
+    MessageContainer m_batchStorage;
     QMutex m_mutex;
     CanRead m_reader;
 };
