@@ -24,6 +24,7 @@ double median(std::vector<double> values)
     return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2.0;
 }
 
+// Or what the benchmark itself gives as such.
 bool countsWallTime(const std::string& name)
 {
     return name.find("real_time") != std::string::npos ||

@@ -21,8 +21,8 @@ struct Comparison
 void setItems(benchmark::State& state, std::int64_t itemsPerIteration);
 
 /// Prints one line for each benchmark, over all its repetitions, and the ratios of pairs. A
-/// benchmark of one thread counts the processor's time, so that other work on the machine disturbs
-/// it little; one with "real_time" or "manual_time" in its name counts the wall's.
+/// benchmark counts the main thread's processor time, so that other work on the machine disturbs it
+/// little; one with "real_time" in its name counts the wall's.
 class RatioReporter : public benchmark::BenchmarkReporter
 {
 public:

