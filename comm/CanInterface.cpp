@@ -6,7 +6,6 @@
 #include "core/GuardedCall.h"
 #include "core/Latin1.h"
 #include "core/ModuleRegistry.h"
-#include "message/MessageContainer.h"
 #include "project/WindowMakers.h"
 
 #include <algorithm>
@@ -224,7 +223,8 @@ int CanInterface::frameRate() const
 
 bool CanInterface::poll()
 {
-    MessageContainer batch = takeReceived();
+    MessageContainer batch(std::move(m_batchStorage));
+    takeReceived(batch);
     batch.setSrcDest(zul::toLatin1(name()));
     send(batch);
     Object::receive(batch); // the status window
@@ -232,6 +232,8 @@ bool CanInterface::poll()
     m_estimator.update(
         batch, m_statusDriven ? LoadEstimator::Source::Status : LoadEstimator::Source::Frames,
         isConnected(), zul::wallClock());
+    batch.messages().clear();
+    m_batchStorage = std::move(batch);
     if (device() != nullptr && isConnected() && status() == DeviceStatus::Closed) {
         disconnect();
         return false;
@@ -239,15 +241,14 @@ bool CanInterface::poll()
     return true;
 }
 
-MessageContainer CanInterface::takeReceived()
+void CanInterface::takeReceived(MessageContainer& batch)
 {
-    const std::vector<Message*> received = m_link->takeReceived();
-    MessageContainer batch;
-    batch.messages().reserve(received.size());
-    for (Message* message : received) { // never null
-        batch.addMessage(SmartPtr<Message>(message));
+    m_link->takeReceived(m_taken);
+    batch.messages().reserve(m_taken.size());
+    for (Message* message : m_taken) { // never null
+        batch.messages().emplace_back(message);
     }
-    return batch;
+    m_taken.clear();
 }
 
 void CanInterface::retireReader()

@@ -4,6 +4,7 @@
 #include "comm/DeviceLink.h"
 #include "comm/LoadEstimator.h"
 #include "message/Device.h"
+#include "message/MessageContainer.h"
 #include "project/InterfaceObject.h"
 #include "project/ObjectTypeInfo.h"
 
@@ -12,6 +13,7 @@
 #include <atomic>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace comm {
 
@@ -58,7 +60,7 @@ public:
     static constexpr int defaultExtent = 400; ///< window size, both ways, in pixels
 
 private:
-    MessageContainer takeReceived();
+    void takeReceived(MessageContainer& batch);
     void retireReader();
     void readElement(const QDomElement& element);
     void readProperty(const QDomElement& element);
@@ -68,6 +70,10 @@ private:
     std::string m_moduleName; // as it was selected, for a device that fails to tell
     std::shared_ptr<DeviceLink> m_link = std::make_shared<DeviceLink>();
     std::unique_ptr<CanRead> m_reader; // null until the first connection
+    // Lists of the poll before, empty: allocating large ones anew at each poll would make the
+    // allocator put all its small free blocks together, and slow down the next frames.
+    std::vector<Message*> m_taken;
+    MessageContainer m_batchStorage;
 };
 
 } // namespace comm

@@ -41,12 +41,10 @@ void DeviceLink::drain()
     }
 }
 
-std::vector<Message*> DeviceLink::takeReceived()
+void DeviceLink::takeReceived(std::vector<Message*>& empty)
 {
-    std::vector<Message*> received;
     const QMutexLocker lock(&m_mutex);
-    received.swap(m_received);
-    return received;
+    empty.swap(m_received);
 }
 
 void DeviceLink::drainLocked()

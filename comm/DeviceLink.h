@@ -34,8 +34,9 @@ public:
 
     /// Takes what the device has received; on the reader thread. Does nothing while not connected.
     void drain();
-    /// The messages received since the last call. The caller owns them.
-    std::vector<Message*> takeReceived();
+    /// Exchanges `empty`, an empty list, for the messages received since the last call. The caller
+    /// owns them.
+    void takeReceived(std::vector<Message*>& empty);
 
 private:
     void drainLocked();

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <typeinfo>
 
 /// Base of everything that travels between device modules and tool windows.
 ///
@@ -34,14 +35,19 @@ private:
 
 /// `message` as a `T`, or null if it is null or something else.
 template <typename T>
-T* message_cast(Message* message)
+const T* message_cast(const Message* message)
 {
-    return dynamic_cast<T*>(message);
+    // Every window asks this of every frame: what is a `T` itself, as nearly all frames are, needs
+    // no walk over base classes.
+    if (message != nullptr && typeid(*message) == typeid(T)) {
+        return static_cast<const T*>(message);
+    }
+    return dynamic_cast<const T*>(message);
 }
 
 /// \overload
 template <typename T>
-const T* message_cast(const Message* message)
+T* message_cast(Message* message)
 {
-    return dynamic_cast<const T*>(message);
+    return const_cast<T*>(message_cast<T>(static_cast<const Message*>(message)));
 }

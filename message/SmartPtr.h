@@ -34,8 +34,7 @@ public:
     ~SmartPtr()
     {
         if (m_block != nullptr && --m_block->count == 0) {
-            delete m_block->object;
-            delete m_block;
+            destroy(m_block);
         }
     }
 
@@ -54,6 +53,14 @@ private:
         std::uint32_t count;
         T* object;
     };
+
+    // Not inline: GCC 12 does not follow the count, and would warn of a use after free wherever it
+    // sees one owner end before another.
+    [[gnu::noinline]] static void destroy(Block* block)
+    {
+        delete block->object;
+        delete block;
+    }
 
     Block* m_block = nullptr;
 };

@@ -1,12 +1,10 @@
 #include "traffic/FormatBytes.h"
 
+#include "traffic/TextWriter.h"
+
 #include <algorithm>
-#include <cstdio>
 
 namespace {
-
-// Room for the offset mark and 16 bytes of four characters each; no line can reach its end.
-constexpr std::size_t lineSize = payloadLineCapacity;
 
 std::int64_t bytesInLine(const zul::MessageCan& frame, int offset)
 {
@@ -17,34 +15,17 @@ std::int64_t bytesInLine(const zul::MessageCan& frame, int offset)
     return std::min<std::int64_t>(left, bytesPerLine);
 }
 
-// Appends in place of snprintf, which would be called for each byte of each repainted row.
-class Line
+// As " %2d-> ".
+void appendOffset(TextWriter& line, int offset)
 {
-public:
-    explicit Line(int offset)
-    {
-        m_length = static_cast<std::size_t>(
-            std::clamp(std::snprintf(m_text, lineSize, " %2d-> ", offset), 0, 16));
+    constexpr int twoDigits = 10;
+    line.append(' ');
+    if (offset >= 0 && offset < twoDigits) {
+        line.append(' ');
     }
-
-    void append(char character)
-    {
-        if (m_length + 1 < lineSize) {
-            m_text[m_length++] = character;
-        }
-    }
-
-    void copyTo(char* buffer, std::size_t capacity) const
-    {
-        const std::size_t count = std::min(m_length, capacity - 1);
-        std::copy_n(m_text, count, buffer);
-        buffer[count] = '\0';
-    }
-
-private:
-    char m_text[lineSize] = {};
-    std::size_t m_length = 0;
-};
+    line.appendDecimal(offset);
+    line.append("-> ");
+}
 
 } // namespace
 
@@ -58,9 +39,11 @@ int formatBytesDec(char* buffer, std::size_t capacity, const zul::MessageCan& fr
     if (count < 1) {
         return 0;
     }
-    Line line(offset);
+    TextWriter line(buffer, capacity);
+    appendOffset(line, offset);
+    const zul::MessageData& bytes = frame.msg();
     for (int i = 0; i < count; ++i) {
-        const int byte = frame.msg()[offset + i];
+        const int byte = bytes[offset + i];
         line.append(static_cast<char>('0' + byte / 100));
         line.append(static_cast<char>('0' + byte / 10 % 10));
         line.append(static_cast<char>('0' + byte % 10));
@@ -68,7 +51,6 @@ int formatBytesDec(char* buffer, std::size_t capacity, const zul::MessageCan& fr
             line.append(' ');
         }
     }
-    line.copyTo(buffer, capacity);
     return 0;
 }
 
@@ -84,9 +66,11 @@ int formatBytesHex(char* buffer, std::size_t capacity, const zul::MessageCan& fr
     }
     constexpr const char* digits = "0123456789abcdef";
     const std::int64_t lastIndex = static_cast<std::int64_t>(frame.byteCount()) - 1;
-    Line line(offset);
+    TextWriter line(buffer, capacity);
+    appendOffset(line, offset);
+    const zul::MessageData& bytes = frame.msg();
     for (int i = 0; i < count; ++i) {
-        const unsigned byte = frame.msg()[offset + i];
+        const unsigned byte = bytes[offset + i];
         line.append('$');
         line.append(digits[byte >> 4U]);
         line.append(digits[byte & 0xFU]);
@@ -94,6 +78,5 @@ int formatBytesHex(char* buffer, std::size_t capacity, const zul::MessageCan& fr
             line.append(' ');
         }
     }
-    line.copyTo(buffer, capacity);
     return 0;
 }

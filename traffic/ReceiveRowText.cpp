@@ -1,9 +1,9 @@
 #include "traffic/ReceiveRowText.h"
 
 #include "traffic/MessageModes.h"
+#include "traffic/TextWriter.h"
 
 #include <algorithm>
-#include <cstdio>
 
 using zul::MessageCan;
 
@@ -31,23 +31,25 @@ void writeLines(const MessageCan& frame, int numberType, ReceiveRowText& text)
 void receiveRowText(const ReceiveRow& row, int numberType, ReceiveRowText& text)
 {
     const MessageCan& frame = row.msg;
-    std::snprintf(text.count, sizeof text.count, "%d", static_cast<int>(row.count));
-    std::snprintf(text.time, sizeof text.time, "%.4f", frame.timeStampDouble());
+    TextWriter(text.count, sizeof text.count).appendDecimal(static_cast<int>(row.count));
+    TextWriter(text.time, sizeof text.time).appendTime(frame.timeStamp());
+    TextWriter id(text.id, sizeof text.id);
+    TextWriter length(text.length, sizeof text.length);
     text.hasLines = frame.frameType() != MessageCan::EFrameType::Error;
     if (!text.hasLines) {
-        std::snprintf(text.id, sizeof text.id, "ERROR FRAME");
-        text.length[0] = '\0';
+        id.append("ERROR FRAME");
         return;
     }
-    const char* const prefix = messageModePrefix(static_cast<std::uint32_t>(frame.mode()));
+    id.append(messageModePrefix(static_cast<std::uint32_t>(frame.mode())));
     if (numberType == hexadecimal) {
-        std::snprintf(text.id, sizeof text.id, "%s 0x%X", prefix, frame.id());
+        id.append(" 0x");
+        id.appendHexadecimal(frame.id());
     } else {
-        std::snprintf(text.id, sizeof text.id, "%s %d", prefix, static_cast<int>(frame.id()));
+        id.append(' ');
+        id.appendDecimal(static_cast<int>(frame.id()));
     }
-    const char type = frame.frameType() == MessageCan::EFrameType::Remote ? 'R' : 'D';
-    std::snprintf(text.length, sizeof text.length, "%c%d", type,
-                  static_cast<int>(frame.byteCount()));
+    length.append(frame.frameType() == MessageCan::EFrameType::Remote ? 'R' : 'D');
+    length.appendDecimal(static_cast<int>(frame.byteCount()));
     writeLines(frame, numberType, text);
 }
 

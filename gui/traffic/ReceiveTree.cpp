@@ -82,14 +82,15 @@ void ReceiveTree::buildColumns()
 
 void ReceiveTree::addMissingRows(const ReceiveTable& table, int numberType)
 {
-    for (int i = static_cast<int>(m_items.size()); i < table.rowCount(); ++i) {
+    for (int i = static_cast<int>(m_rows.size()); i < table.rowCount(); ++i) {
         addRow(table, i, numberType);
     }
 }
 
 void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType)
 {
-    Items items{};
+    Row row;
+    auto& items = row.items;
     items[0] = new ReceiveTreeItem(table, index);
     QFont bold = font();
     bold.setWeight(boldWeight);
@@ -106,9 +107,9 @@ void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType)
     }
     addTopLevelItem(items[0]);
     for (std::size_t line = 1; line < itemCount; ++line) {
-        items[line]->setHidden(true); // until the first painting knows the byte count
+        row.items[line]->setHidden(true); // until the first painting knows the byte count
     }
-    m_items.push_back(items);
+    m_rows.push_back(row);
 }
 
 void ReceiveTree::paintDirtyRows(ReceiveTable& table, int numberType)
@@ -120,7 +121,7 @@ void ReceiveTree::paintDirtyRows(ReceiveTable& table, int numberType)
         const QSignalBlocker blocker(model());
         setUpdatesEnabled(false);
         for (const int index : table.dirtyRows()) {
-            paintRow(table.row(index), m_items[static_cast<std::size_t>(index)], numberType);
+            paintRow(table.row(index), m_rows[static_cast<std::size_t>(index)], numberType);
         }
         setUpdatesEnabled(true);
     }
@@ -130,54 +131,65 @@ void ReceiveTree::paintDirtyRows(ReceiveTable& table, int numberType)
 void ReceiveTree::clearRows()
 {
     clear();
-    m_items.clear();
+    m_rows.clear();
 }
 
-void ReceiveTree::paintRow(ReceiveRow& row, const Items& items, int numberType)
+void ReceiveTree::paintRow(ReceiveRow& record, Row& row, int numberType)
 {
-    receiveRowText(row, numberType, m_text);
-    QTreeWidgetItem& top = *items[0];
+    receiveRowText(record, numberType, m_text);
+    QTreeWidgetItem& top = *row.items[0];
     setCell(top, ReceiveColumn::Count, m_text.count);
     setCell(top, ReceiveColumn::Time, m_text.time);
     setCell(top, ReceiveColumn::Id, m_text.id);
     setCell(top, ReceiveColumn::Length, m_text.length);
     if (m_text.hasLines) {
-        paintLines(row, items);
+        paintLines(record, row);
     }
-    const QColor& color = m_text.hasLines ? colors::normalText : colors::errorText;
-    if (top.foreground(0).color() != color || top.foreground(0).style() == Qt::NoBrush) {
+    const Shown wanted = m_text.hasLines ? Shown::Frame : Shown::ErrorFrame;
+    if (row.shown != wanted) {
+        row.shown = wanted;
+        const QColor& color = m_text.hasLines ? colors::normalText : colors::errorText;
         for (int column = 0; column < receiveColumnCount; ++column) {
             top.setForeground(column, color);
         }
     }
-    paintActivity(row, items);
+    paintActivity(record, row);
 }
 
-void ReceiveTree::paintLines(ReceiveRow& row, const Items& items) const
+void ReceiveTree::paintLines(ReceiveRow& record, Row& row) const
 {
+    const std::size_t before = row.lines;
+    row.lines = 0;
     for (std::size_t line = 0; line < itemCount; ++line) {
-        setCell(*items[line], ReceiveColumn::Message, m_text.lines[line]);
+        const bool isEmpty = m_text.lines[line][0] == '\0';
+        if (!isEmpty) {
+            row.lines = line + 1;
+        }
+        if (!isEmpty || line < before) {
+            setCell(*row.items[line], ReceiveColumn::Message, m_text.lines[line]);
+        }
     }
-    const std::uint32_t byteCount = row.msg.byteCount();
-    if (byteCount == row.shownByteCount) {
+    const std::uint32_t byteCount = record.msg.byteCount();
+    if (byteCount == record.shownByteCount) {
         return;
     }
-    row.shownByteCount = byteCount;
+    record.shownByteCount = byteCount;
     for (std::size_t line = 1; line < itemCount; ++line) {
-        items[line]->setHidden(!isReceiveLineShown(static_cast<int>(line), byteCount));
+        row.items[line]->setHidden(!isReceiveLineShown(static_cast<int>(line), byteCount));
     }
 }
 
-void ReceiveTree::paintActivity(ReceiveRow& row, const Items& items) const
+void ReceiveTree::paintActivity(ReceiveRow& record, Row& row) const
 {
     // A row that turned silent before its first painting has never been shown either way.
-    if (row.active == row.shownActive && items[0]->background(0).style() != Qt::NoBrush) {
+    if (record.active == record.shownActive && row.hasBackground) {
         return;
     }
-    row.shownActive = row.active;
-    items[0]->setIcon(0, row.active ? m_alive : m_silent);
-    const QColor& color = row.active ? colors::aliveRow : colors::silentRow;
-    for (QTreeWidgetItem* item : items) {
+    record.shownActive = record.active;
+    row.hasBackground = true;
+    row.items[0]->setIcon(0, record.active ? m_alive : m_silent);
+    const QColor& color = record.active ? colors::aliveRow : colors::silentRow;
+    for (QTreeWidgetItem* item : row.items) {
         for (int column = 0; column < receiveColumnCount; ++column) {
             item->setBackground(column, color);
         }

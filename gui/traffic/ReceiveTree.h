@@ -27,18 +27,29 @@ public:
 
 private:
     static constexpr std::size_t itemCount = receiveLineCount;
-    using Items = std::array<QTreeWidgetItem*, itemCount>;
+
+    /// Text colour of a row.
+    enum class Shown { Nothing, Frame, ErrorFrame };
+
+    /// The items of one row, and what they show, which is quicker to look at here than in them.
+    struct Row
+    {
+        std::array<QTreeWidgetItem*, itemCount> items{};
+        std::size_t lines = 0; ///< lines from the first on that may have a text
+        Shown shown = Shown::Nothing;
+        bool hasBackground = false;
+    };
 
     void buildColumns();
     void addRow(const ReceiveTable& table, int index, int numberType);
-    void paintRow(ReceiveRow& row, const Items& items, int numberType);
-    void paintActivity(ReceiveRow& row, const Items& items) const;
-    void paintLines(ReceiveRow& row, const Items& items) const;
+    void paintRow(ReceiveRow& record, Row& row, int numberType);
+    void paintActivity(ReceiveRow& record, Row& row) const;
+    void paintLines(ReceiveRow& record, Row& row) const;
 
     QIcon m_alive;
     QIcon m_silent;
     QFont m_payloadFont;
-    std::vector<Items> m_items;
+    std::vector<Row> m_rows;
     ReceiveRowText m_text{};
 };
 

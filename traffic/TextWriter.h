@@ -1,0 +1,36 @@
+#pragma once
+
+#include "message/MessageCan.h"
+
+#include <cstddef>
+#include <cstdint>
+
+/// Appends to a text in a buffer of the caller's; what does not fit is cut, and a closing 0 always
+/// stands. It does the work of snprintf where rows are written again and again, at a fraction of
+/// its time.
+class TextWriter
+{
+public:
+    /// The text is empty at first. `capacity` counts the closing 0 and is at least 1.
+    TextWriter(char* buffer, std::size_t capacity);
+
+    void append(char character)
+    {
+        if (m_length + 1 < m_capacity) {
+            m_buffer[m_length++] = character;
+            m_buffer[m_length] = '\0';
+        }
+    }
+    void append(const char* text);
+    /// As "%d".
+    void appendDecimal(std::int64_t number);
+    /// As "%X".
+    void appendHexadecimal(std::uint32_t number);
+    /// As "%.4f" of `zul::MessageCan::timeStampDouble`, to the last digit.
+    void appendTime(const zul::MessageCan::TimeStamp& time);
+
+private:
+    char* m_buffer;
+    std::size_t m_capacity;
+    std::size_t m_length = 0;
+};
