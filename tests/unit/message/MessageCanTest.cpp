@@ -145,6 +145,18 @@ TEST(MessageCast, TellsTheClassesApartByRunTimeType)
     EXPECT_EQ(message_cast<MessageCan>(static_cast<Message*>(nullptr)), nullptr);
 }
 
+TEST(MessageCan, CastFindsWhatDerivesFromTheClass)
+{
+    class Marked : public MessageCan
+    {
+    };
+    const std::unique_ptr<Message> marked = std::make_unique<Marked>();
+    EXPECT_EQ(message_cast<MessageCan>(marked.get()), marked.get());
+    EXPECT_EQ(message_cast<Message>(marked.get()), marked.get());
+    const MessageCan frame;
+    EXPECT_EQ(message_cast<Marked>(&frame), nullptr);
+}
+
 TEST(MessageCtrl, IdReadsBack)
 {
     zul::MessageCtrl control;
