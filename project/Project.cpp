@@ -107,9 +107,9 @@ void Project::clear()
 
 bool Project::load(const QString& path)
 {
-    const QString fileName = path; // it may be this project's own, which clear() empties
+    QString fileName = path; // it may be this project's own, which clear() empties
     clear();
-    m_fileName = fileName;
+    m_fileName = std::move(fileName);
     m_window = WindowRectangle();
     QDomDocument document;
     zul::loadXmlFile(m_fileName, document);
