@@ -49,7 +49,8 @@ DialogMain::DialogMain(std::vector<ObjectTypeInfo> types, QWidget* parent)
       m_project(std::move(types), Kernel::instance().home() + QStringLiteral("default.zul")),
       m_mdiArea(new QMdiArea(this)),
       m_actions(*this),
-      m_desk(new WindowDesk(*m_mdiArea, m_project, this)),
+      m_desk(new WindowDesk(*m_mdiArea, m_project, m_actions[MainAction::CloseWindow]->shortcut(),
+                            this)),
       m_endProcess([] { std::exit(EXIT_SUCCESS); }) // NOLINT(concurrency-mt-unsafe)
 {
     Kernel::instance().setProject(&m_project);
