@@ -221,8 +221,18 @@ void DialogMain::showReplacedProject()
     m_heartbeat.start(tickMs);
 }
 
+void DialogMain::restoreOnce()
+{
+    if (!m_restored) {
+        m_restored = true;
+        openProjectWindows();
+    }
+}
+
 void DialogMain::storeGeometry()
 {
+    // A project that is saved before the first tick would forget which windows it had.
+    restoreOnce();
     m_desk->storeGeometry();
     m_project.setWindowRectangle({x(), y(), width(), height()});
 }
@@ -282,11 +292,7 @@ void DialogMain::slotSetActiveSubWindow(QWidget* window)
 
 void DialogMain::slotTimeout()
 {
-    if (!m_restored) {
-        // Here and not in the constructor, so that the main window appears first.
-        m_restored = true;
-        openProjectWindows();
-    }
+    restoreOnce(); // here and not in the constructor, so that the main window appears first
     m_project.poll();
     if (m_project.isEdited() != m_lastEdited) {
         updateTitle();

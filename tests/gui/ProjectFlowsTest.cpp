@@ -86,6 +86,17 @@ TEST_F(ProjectFlows, FirstTickOpensTheWindowsThatAreMarkedOpen)
     EXPECT_TRUE(windowTitles().isEmpty()); // only the first one does
 }
 
+TEST_F(ProjectFlows, QuitBeforeTheFirstTickKeepsTheWindowsMarkedOpen)
+{
+    m_home.write(QStringLiteral("default.zul"), oneReceive);
+    start();
+    trigger(5);
+    EXPECT_EQ(m_home.read(QStringLiteral("default.zul")).count("open=\"1\""), 1);
+    restart();
+    tick();
+    EXPECT_EQ(windowTitles(), texts({"Nose"}));
+}
+
 TEST_F(ProjectFlows, NewOfAnUneditedProjectAsksNothing)
 {
     m_home.write(QStringLiteral("default.zul"), oneReceive);
