@@ -9,6 +9,7 @@
 #include "project/ObjectTrace.h"
 #include "project/ObjectTransmit.h"
 #include "project/WindowMakers.h"
+#include "tests/support/FixtureModules.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -23,6 +24,10 @@
 namespace zul::test {
 
 namespace {
+
+// For all tests of the program: its module registry scans once.
+const auto* const modules = testing::AddGlobalTestEnvironment(
+    new FixtureModuleEnvironment({"good", "create_device_null"}, {CAN_VIRTUAL_MODULE}));
 
 constexpr int modalDeadlineMs = 5000;
 constexpr int modalPollMs = 5;
