@@ -26,6 +26,11 @@ QString Kernel::home() const
     return m_home;
 }
 
+void Kernel::setHome(const QString& home)
+{
+    m_home = home;
+}
+
 DialogMain* Kernel::mainWindow() const
 {
     return m_mainWindow;

@@ -31,6 +31,8 @@ public:
 
     /// Directory of the user's files, ending in a slash.
     QString home() const;
+    /// Another home, with a slash at its end; for tests.
+    void setHome(const QString& home);
 
     DialogMain* mainWindow() const;
     void setMainWindow(DialogMain* mainWindow);

@@ -49,7 +49,8 @@ DialogMain::DialogMain(std::vector<ObjectTypeInfo> types, QWidget* parent)
       m_project(std::move(types), Kernel::instance().home() + QStringLiteral("default.zul")),
       m_mdiArea(new QMdiArea(this)),
       m_actions(*this),
-      m_desk(new WindowDesk(*m_mdiArea, m_project, this)),
+      m_desk(new WindowDesk(*m_mdiArea, m_project, m_actions[MainAction::CloseWindow]->shortcut(),
+                            this)),
       m_endProcess([] { std::exit(EXIT_SUCCESS); }) // NOLINT(concurrency-mt-unsafe)
 {
     Kernel::instance().setProject(&m_project);
@@ -220,8 +221,18 @@ void DialogMain::showReplacedProject()
     m_heartbeat.start(tickMs);
 }
 
+void DialogMain::restoreOnce()
+{
+    if (!m_restored) {
+        m_restored = true;
+        openProjectWindows();
+    }
+}
+
 void DialogMain::storeGeometry()
 {
+    // A project that is saved before the first tick would forget which windows it had.
+    restoreOnce();
     m_desk->storeGeometry();
     m_project.setWindowRectangle({x(), y(), width(), height()});
 }
@@ -281,11 +292,7 @@ void DialogMain::slotSetActiveSubWindow(QWidget* window)
 
 void DialogMain::slotTimeout()
 {
-    if (!m_restored) {
-        // Here and not in the constructor, so that the main window appears first.
-        m_restored = true;
-        openProjectWindows();
-    }
+    restoreOnce(); // here and not in the constructor, so that the main window appears first
     m_project.poll();
     if (m_project.isEdited() != m_lastEdited) {
         updateTitle();

@@ -81,6 +81,7 @@ private:
     void enableWindowActions();
     void refreshPanels();
     void showReplacedProject();
+    void restoreOnce();
     void storeGeometry();
     void openProjectWindows();
 

@@ -10,6 +10,7 @@
 #include <QScopedValueRollback>
 #include <QSpinBox>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -237,9 +238,9 @@ void WidgetProperty::showRegister()
 void WidgetProperty::showSpins(std::uint32_t value)
 {
     const QScopedValueRollback<bool> guard(m_refreshing, true);
-    const auto values = gui::splitRegister(*gui::registerLayout(m_property.kind), value);
+    m_fieldValues = gui::splitRegister(*gui::registerLayout(m_property.kind), value);
     for (std::size_t i = 0; i < m_spins.size(); ++i) {
-        m_spins[i]->setValue(values[i]);
+        m_spins[i]->setValue(m_fieldValues[i]);
     }
 }
 
@@ -352,11 +353,16 @@ void WidgetProperty::spinRegister()
     if (m_refreshing) {
         return;
     }
-    std::vector<int> values;
-    for (const QSpinBox* spin : m_spins) {
-        values.push_back(spin->value());
+    m_fieldValues.resize(m_spins.size());
+    for (std::size_t i = 0; i < m_spins.size(); ++i) {
+        // A field below its range stays as it is stored, until its own box is turned.
+        const QSpinBox& spin = *m_spins[i];
+        if (spin.value() != std::clamp(m_fieldValues[i], spin.minimum(), spin.maximum())) {
+            m_fieldValues[i] = spin.value();
+        }
     }
-    const std::uint32_t value = gui::composeRegister(*gui::registerLayout(m_property.kind), values);
+    const std::uint32_t value =
+        gui::composeRegister(*gui::registerLayout(m_property.kind), m_fieldValues);
     change(registerText(value));
     // Not `value`: the device may have made something else of it.
     m_register->setText(zul::fromLatin1(m_value));

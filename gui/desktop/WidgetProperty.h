@@ -73,4 +73,5 @@ private:
     QLineEdit* m_btr1 = nullptr;
     QLineEdit* m_register = nullptr;
     std::vector<QSpinBox*> m_spins;
+    std::vector<int> m_fieldValues; // of the register; a box cannot show those below its range
 };

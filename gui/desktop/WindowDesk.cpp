@@ -5,11 +5,29 @@
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 
 namespace gui {
 
-WindowDesk::WindowDesk(QMdiArea& area, Project& project, QWidget* parent)
-    : QObject(parent), m_area(area), m_project(project), m_parent(parent)
+namespace {
+
+// The window's own menu has the key, on some desktops, with which the main window closes the active
+// window. A key of two actions is ambiguous, and neither is carried out.
+void releaseKey(const QMdiSubWindow& subWindow, const QKeySequence& key)
+{
+    for (QAction* action : subWindow.systemMenu()->actions()) {
+        QList<QKeySequence> keys = action->shortcuts();
+        if (keys.removeAll(key) > 0) {
+            action->setShortcuts(keys);
+        }
+    }
+}
+
+} // namespace
+
+WindowDesk::WindowDesk(QMdiArea& area, Project& project, const QKeySequence& closeKey,
+                       QWidget* parent)
+    : QObject(parent), m_area(area), m_project(project), m_closeKey(closeKey), m_parent(parent)
 {
 }
 
@@ -32,6 +50,7 @@ DialogBase* WindowDesk::open(Object& object)
     connect(dialog, &DialogBase::signalDeleteDialog, this, &WindowDesk::signalDeleteDialog);
     connect(dialog, &DialogBase::signalDeleteObject, this, &WindowDesk::signalDeleteObject);
     QMdiSubWindow* subWindow = m_area.addSubWindow(dialog);
+    releaseKey(*subWindow, m_closeKey);
     subWindow->setWindowIcon(dialog->windowIcon());
     subWindow->show();
     return dialog;

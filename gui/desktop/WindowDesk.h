@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QObject>
 
 class Message;
@@ -19,8 +20,9 @@ class WindowDesk : public QObject
     Q_OBJECT
 
 public:
-    /// `area` and `project` outlive the desk. Windows are made with `parent`.
-    WindowDesk(QMdiArea& area, Project& project, QWidget* parent);
+    /// `area` and `project` outlive the desk. Windows are made with `parent`; none of them takes
+    /// `closeKey`, with which `parent` closes the active one.
+    WindowDesk(QMdiArea& area, Project& project, const QKeySequence& closeKey, QWidget* parent);
 
     /// Closes all windows and opens those of the objects that are marked open.
     void openProjectWindows();
@@ -50,6 +52,7 @@ signals:
 private:
     QMdiArea& m_area;
     Project& m_project;
+    QKeySequence m_closeKey;
     QWidget* m_parent;
 };
 

@@ -1,7 +1,6 @@
 #include "comm/CanInterface.h"
 
 #include "comm/BatchListeners.h"
-#include "core/ModuleRegistry.h"
 #include "message/MessageCan.h"
 #include "message/MessageCtrl.h"
 #include "project/ObjectReceive.h"
@@ -11,9 +10,7 @@
 #include "tests/support/ProbeObjects.h"
 #include "tests/support/TestHome.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -22,28 +19,10 @@ namespace {
 
 using comm::CanInterface;
 
-// All fixture modules in one directory, found through "ZUL_HOME" as a user's modules are.
-class Modules : public testing::Environment
-{
-public:
-    void SetUp() override
-    {
-        for (const char* name : {"good", "status_driven", "status_driven_fd", "device_throws",
-                                 "create_device_null", "create_device_throws"}) {
-            const QDir from(zul::test::fixtureModuleDirectory(name));
-            for (const QString& file : from.entryList({QStringLiteral("libCan*")}, QDir::Files)) {
-                ASSERT_TRUE(QFile::link(from.filePath(file), m_home.file(file)));
-            }
-        }
-        qputenv("ZUL_HOME", m_home.path().toLocal8Bit());
-        ModuleRegistry::instance();
-    }
-
-private:
-    zul::test::TestHome m_home;
-};
-
-const auto* const modules = testing::AddGlobalTestEnvironment(new Modules);
+const auto* const modules =
+    testing::AddGlobalTestEnvironment(new zul::test::FixtureModuleEnvironment(
+        {"good", "status_driven", "status_driven_fd", "device_throws", "create_device_null",
+         "create_device_throws"}));
 
 std::string property(CanInterface& interface, const char* key)
 {
