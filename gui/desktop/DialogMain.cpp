@@ -7,6 +7,7 @@
 #include "gui/desktop/DialogProfileResult.h"
 #include "gui/desktop/DialogProject.h"
 #include "gui/desktop/DialogTasks.h"
+#include "gui/desktop/Geometry.h"
 #include "gui/desktop/WindowDesk.h"
 #include "gui/frame/DialogBase.h"
 #include "gui/frame/GuiRequests.h"
@@ -15,11 +16,13 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -189,9 +192,7 @@ void DialogMain::applyFirstGeometry()
         resize(defaultSize);
         return;
     }
-    const auto& rectangle = m_project.windowRectangle();
-    resize(rectangle.width, rectangle.height);
-    move(rectangle.x, rectangle.y);
+    applyProjectRectangle();
 }
 
 void DialogMain::updateTitle()
@@ -241,10 +242,18 @@ void DialogMain::openProjectWindows()
 {
     m_desk->openProjectWindows();
     if (restoreTopLevel() == restoreAlways) {
-        const auto& rectangle = m_project.windowRectangle();
-        resize(rectangle.width, rectangle.height);
-        move(rectangle.x, rectangle.y);
+        applyProjectRectangle();
     }
+}
+
+void DialogMain::applyProjectRectangle()
+{
+    const auto& rectangle = m_project.windowRectangle();
+    const QRect geometry = reachableGeometry(
+        boundedGeometry(rectangle.x, rectangle.y, rectangle.width, rectangle.height),
+        QGuiApplication::primaryScreen()->availableVirtualGeometry());
+    resize(geometry.size());
+    move(geometry.topLeft());
 }
 
 void DialogMain::guiRequest(std::unique_ptr<Message> request)

@@ -84,6 +84,7 @@ private:
     void restoreOnce();
     void storeGeometry();
     void openProjectWindows();
+    void applyProjectRectangle();
 
     // Flows, in DialogMainFlows.cpp.
     void dispatch(MainAction id);

@@ -1,5 +1,6 @@
 #include "gui/desktop/WindowDesk.h"
 
+#include "gui/desktop/Geometry.h"
 #include "gui/frame/DialogBase.h"
 #include "project/Project.h"
 
@@ -62,8 +63,10 @@ DialogBase* WindowDesk::openInPlace(Object& object)
     if (dialog != nullptr) {
         QMdiSubWindow* subWindow = find(object.id());
         subWindow->showNormal();
-        subWindow->resize(object.width(), object.height());
-        subWindow->move(object.xPos(), object.yPos());
+        const QRect geometry =
+            boundedGeometry(object.xPos(), object.yPos(), object.width(), object.height());
+        subWindow->resize(geometry.size());
+        subWindow->move(geometry.topLeft());
         dialog->setName(object.name());
     }
     return dialog;

@@ -283,6 +283,21 @@ TEST_F(CanInterfaceTest, LoadOfAnotherDeviceComesFromItsFramesAndCanExceed100)
     EXPECT_EQ(m_bus->busLoad(), 0.0);
 }
 
+TEST_F(CanInterfaceTest, WithoutADeviceTheLoadIsToldInAMegabit)
+{
+    select("libCanGood");
+    set("Baudrate", "500000");
+    ASSERT_TRUE(m_bus->connect());
+    set("InjectFrames", "50");
+    ASSERT_TRUE(eventually([&] {
+        m_bus->poll();
+        return m_bus->busLoad() > 0.0;
+    }));
+    const double load = m_bus->busLoad();
+    m_bus->selectDevice(std::string());
+    EXPECT_DOUBLE_EQ(m_bus->busLoad(), load / 2);
+}
+
 TEST_F(CanInterfaceTest, ProjectFileRestoresDevicePropertiesAndName)
 {
     select("libCanGood");

@@ -84,6 +84,15 @@ TEST(LoadEstimator, FramesOfTheLastSecondCount)
     EXPECT_EQ(estimator.busTime(), 5.2);
 }
 
+TEST(LoadEstimator, ModeOfEachFrameCounts)
+{
+    LoadEstimator estimator(100.0);
+    estimator.update(batchOf({{5.0, 8, MessageCan::EMsgMode::Extended},
+                              {5.1, 64, MessageCan::EMsgMode::StandardFdBrs}}),
+                     byFrames, true, 101.0);
+    EXPECT_NEAR(estimator.busBits(), firstSecond(152 + 656), 1e-3);
+}
+
 TEST(LoadEstimator, ErrorFrameAddsNothing)
 {
     LoadEstimator estimator(100.0);

@@ -3,10 +3,12 @@
 #include "message/MessageCtrl.h"
 #include "message/MessageStatus.h"
 
+#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 #include <memory>
+#include <new>
 #include <random>
 
 namespace {
@@ -15,10 +17,14 @@ using zul::MessageCan;
 
 TEST(MessageData, NewPayloadIsZeroEverywhere)
 {
-    const zul::MessageData data;
+    // In memory that held something else before.
+    alignas(zul::MessageData) std::array<unsigned char, sizeof(zul::MessageData)> memory{};
+    memory.fill(0xFF);
+    const auto* data = new (memory.data()) zul::MessageData;
     for (std::int32_t i = 0; i < zul::MessageData::size; ++i) {
-        EXPECT_EQ(data[i], 0) << i;
+        EXPECT_EQ((*data)[i], 0) << i;
     }
+    data->~MessageData();
 }
 
 TEST(MessageData, IndexOutsideReadsZeroAndWritesNothing)
@@ -99,6 +105,7 @@ TEST(MessageCan, EnumerationsHaveTheirWireNumbers)
 TEST(TimeStamp, ZeroStaysZero)
 {
     MessageCan frame;
+    frame.setTimeStamp(5.25);
     frame.setTimeStamp(0.0);
     EXPECT_EQ(frame.timeStampDouble(), 0.0);
 }
@@ -107,6 +114,7 @@ TEST(TimeStamp, WhatTheRecordCannotHoldIsClamped)
 {
     const auto expectRecord = [](double seconds, std::uint32_t whole, std::uint32_t nano) {
         MessageCan frame;
+        frame.setTimeStamp(5.25);
         frame.setTimeStamp(seconds);
         EXPECT_EQ(frame.timeStamp().seconds, whole) << seconds;
         EXPECT_EQ(frame.timeStamp().nanoseconds, nano) << seconds;

@@ -216,8 +216,11 @@ TEST_F(ProjectTest, FileHasVersionRectangleAndObjectsAndNothingElse)
 TEST_F(ProjectTest, RootAloneGivesAnEmptyProjectOfTheDefaultSize)
 {
     writeFile(path("root.zul"), "<ZUL/>");
+    m_project.setWindowRectangle({1, 2, 300, 400});
     EXPECT_TRUE(m_project.load(path("root.zul")));
     EXPECT_TRUE(m_project.objects().empty());
+    EXPECT_EQ(m_project.windowRectangle().x, 0);
+    EXPECT_EQ(m_project.windowRectangle().y, 0);
     EXPECT_EQ(m_project.windowRectangle().width, 1024);
     EXPECT_EQ(m_project.windowRectangle().height, 768);
 }
