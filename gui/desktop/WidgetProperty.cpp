@@ -11,6 +11,7 @@
 #include <QSpinBox>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -53,8 +54,8 @@ void setTextIfOther(QLineEdit& edit, const QString& text)
 
 } // namespace
 
-WidgetProperty::WidgetProperty(const DeviceProperty& property, QWidget* parent)
-    : QFrame(parent), m_property(property)
+WidgetProperty::WidgetProperty(DeviceProperty property, QWidget* parent)
+    : QFrame(parent), m_property(std::move(property))
 {
     setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Raised));
     QPalette colors = palette();

@@ -21,7 +21,7 @@ class WidgetProperty : public QFrame
     Q_OBJECT
 
 public:
-    explicit WidgetProperty(const DeviceProperty& property, QWidget* parent = nullptr);
+    explicit WidgetProperty(DeviceProperty property, QWidget* parent = nullptr);
 
     /// Shows the value text, without a signal. Numbers that do not parse count as 0.
     void setValue(const std::string& value);

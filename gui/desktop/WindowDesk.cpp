@@ -96,7 +96,7 @@ void WindowDesk::forceCloseAll()
     }
 }
 
-void WindowDesk::forceClose(int objectId)
+void WindowDesk::forceClose(int objectId) const
 {
     if (QMdiSubWindow* subWindow = find(objectId)) {
         dialogOf(*subWindow)->forceClose();

@@ -37,7 +37,7 @@ public:
 
     /// Closes without asking.
     void forceCloseAll();
-    void forceClose(int objectId);
+    void forceClose(int objectId) const;
     /// Deletes all sub-windows without close events.
     void deleteAll();
     /// Copies position and size of every sub-window into its object.
