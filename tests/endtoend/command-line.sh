@@ -3,6 +3,7 @@
 # nevertheless, and what lies in the home directory afterwards.
 #
 #   command-line.sh PROGRAM
+# shellcheck source=tests/endtoend/lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 setup "$1"
 title="ZUL     default.zul"

@@ -3,6 +3,7 @@
 # writes files of its own, and keeps the ones that it could not read.
 #
 #   hostile-home.sh PROGRAM
+# shellcheck source=tests/endtoend/lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 setup "$1"
 title="ZUL     default.zul"

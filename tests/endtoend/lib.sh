@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What the end-to-end scripts share: a virtual display, a fresh home, and the program in it.
 #
 #   source lib.sh
@@ -14,6 +15,7 @@ readonly wait_polls=300 # 15 seconds
 
 work=
 server=
+display=
 pid=
 home=
 title=
@@ -54,6 +56,9 @@ takedown() {
     [[ -z $work ]] || rm -rf "$work"
 }
 
+# Only once the line is complete.
+display_is_known() { read -r display <"$work/display"; }
+
 setup() {
     program=$1
     local tool
@@ -62,17 +67,19 @@ setup() {
     done
     work=$(mktemp -d)
     trap takedown EXIT
-    # The server picks a free display number and tells it.
-    Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+    # The server picks a free display number and tells it. It would start anew when its last client
+    # leaves, and refuse the one that comes just then.
+    : >"$work/display"
+    Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset \
+        3>"$work/display" 2>/dev/null &
     server=$!
-    wait_for "The virtual display does not start." test -s "$work/display"
-    DISPLAY=:$(<"$work/display")
-    export DISPLAY
+    wait_for "The virtual display does not start." display_is_known
+    export DISPLAY=:$display
     unset QT_QPA_PLATFORM ZUL_HOME
 }
 
 fresh_home() {
-    rm -rf "$work/home"
+    rm -rf "${work:?}/home"
     home=$work/home
     mkdir -p "$home/ZUL"
 }
@@ -104,13 +111,6 @@ press_quit() {
     for id in $(xdotool search --onlyvisible --name "^ZUL" 2>/dev/null); do
         xdotool windowfocus "$id" key ctrl+q 2>/dev/null || true
     done
-    sleep 0.1
-    is_gone
-}
-
-quit() {
-    is_gone && return
-    xdotool key ctrl+q 2>/dev/null || true
     sleep 0.1
     is_gone
 }

@@ -3,6 +3,7 @@
 # windows, and saves the same bytes.
 #
 #   same-windows.sh PROGRAM RUN_HEADLESS DEMO_DIRECTORY
+# shellcheck source=tests/endtoend/lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 setup "$1"
 run_headless=$2

@@ -57,6 +57,9 @@ protected:
     {
         project().clear();
         DesktopTest::TearDown();
+        for (const Device* device : m_devices) {
+            delete device; // a deleted interface leaves its device behind
+        }
     }
     CanInterface& addInterface(const char* module = "libCanGood")
     {
@@ -64,6 +67,7 @@ protected:
         auto& made = dynamic_cast<CanInterface&>(*project().interfaces().rbegin()->second);
         if (*module != '\0') {
             EXPECT_TRUE(made.selectDevice(module));
+            m_devices.push_back(made.device());
         }
         return made;
     }
@@ -131,6 +135,9 @@ protected:
             inspect(*menu);
         });
     }
+
+private:
+    std::vector<Device*> m_devices;
 };
 
 struct StateRow
