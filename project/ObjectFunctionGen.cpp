@@ -8,15 +8,6 @@ const QString generatorTag = QStringLiteral("Generator");
 const QString signalTag = QStringLiteral("Signal");
 
 template <typename Archive, typename Record>
-void describe(Archive& archive, Record& record)
-{
-    archive.field("inputOn", record.inputOn);
-    archive.field("outputOn", record.outputOn);
-    archive.field("inputInterface", record.inputInterface, allInterfacesName());
-    archive.field("outputInterface", record.outputInterface, allInterfacesName());
-}
-
-template <typename Archive, typename Record>
 void describeGenerator(Archive& archive, Record& generator)
 {
     archive.field("nodeId", generator.nodeId);
@@ -43,7 +34,7 @@ void describeSignal(Archive& archive, Record& signal)
 
 } // namespace
 
-ObjectFunctionGen::ObjectFunctionGen() : WindowObject(ObjectType::FunctionGen)
+ObjectFunctionGen::ObjectFunctionGen()
 {
     for (std::size_t i = 0; i < signalCount; ++i) {
         m_channels[i].channel = static_cast<std::int32_t>(i);
@@ -51,26 +42,6 @@ ObjectFunctionGen::ObjectFunctionGen() : WindowObject(ObjectType::FunctionGen)
 }
 
 ObjectFunctionGen::~ObjectFunctionGen() = default;
-
-std::unique_ptr<Object> ObjectFunctionGen::create()
-{
-    return std::make_unique<ObjectFunctionGen>();
-}
-
-ObjectTypeInfo ObjectFunctionGen::typeInfo()
-{
-    return makeObjectTypeInfo(ObjectType::FunctionGen, &ObjectFunctionGen::create);
-}
-
-void ObjectFunctionGen::writeMode(RecordWriter& writer) const
-{
-    describe(writer, m_settings);
-}
-
-void ObjectFunctionGen::readMode(RecordReader& reader)
-{
-    describe(reader, m_settings);
-}
 
 void ObjectFunctionGen::writeChildren(QDomDocument& document, QDomElement& element) const
 {

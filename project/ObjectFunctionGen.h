@@ -1,22 +1,32 @@
 #pragma once
 
-#include "project/ObjectTypeInfo.h"
-#include "project/WindowObject.h"
+#include "project/SettingsObject.h"
 
 #include <array>
 
+/// `Mode` of a Function Gen. Control window.
+struct FunctionGenSettings
+{
+    bool inputOn = true;
+    bool outputOn = true;
+    QString inputInterface = allInterfacesName();
+    QString outputInterface = allInterfacesName();
+
+    template <typename Archive, typename Record>
+    static void describe(Archive& archive, Record& record)
+    {
+        archive.field("inputOn", record.inputOn);
+        archive.field("outputOn", record.outputOn);
+        archive.field("inputInterface", record.inputInterface, allInterfacesName());
+        archive.field("outputInterface", record.outputInterface, allInterfacesName());
+    }
+};
+
 /// The settings of a Function Gen. Control window.
-class ObjectFunctionGen : public WindowObject
+class ObjectFunctionGen
+    : public SettingsObject<ObjectFunctionGen, FunctionGenSettings, ObjectType::FunctionGen>
 {
 public:
-    struct Settings
-    {
-        bool inputOn = true;
-        bool outputOn = true;
-        QString inputInterface = allInterfacesName();
-        QString outputInterface = allInterfacesName();
-    };
-
     struct Generator
     {
         std::int32_t nodeId = 0;
@@ -46,24 +56,16 @@ public:
     ObjectFunctionGen();
     ~ObjectFunctionGen() override;
 
-    static std::unique_ptr<Object> create();
-    static ObjectTypeInfo typeInfo();
-
-    Settings& settings() { return m_settings; }
-    const Settings& settings() const { return m_settings; }
     Generator& generator() { return m_generator; }
     const Generator& generator() const { return m_generator; }
     Signals& channels() { return m_channels; }
     const Signals& channels() const { return m_channels; }
 
 protected:
-    void writeMode(RecordWriter& writer) const override;
-    void readMode(RecordReader& reader) override;
     void writeChildren(QDomDocument& document, QDomElement& element) const override;
     void readChild(const QDomElement& element) override;
 
 private:
-    Settings m_settings;
     Generator m_generator;
     Signals m_channels;
 };

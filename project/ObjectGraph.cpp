@@ -6,13 +6,6 @@ const QString graphTag = QStringLiteral("Graph");
 const QString messageTag = QStringLiteral("Message");
 
 template <typename Archive, typename Record>
-void describe(Archive& archive, Record& record)
-{
-    archive.field("inputOn", record.inputOn);
-    archive.field("inputInterface", record.inputInterface, allInterfacesName());
-}
-
-template <typename Archive, typename Record>
 void describeGraph(Archive& archive, Record& graph)
 {
     archive.field("xRange", graph.xRange);
@@ -59,29 +52,9 @@ void describeParameter(Archive& archive, Record& parameter)
 
 } // namespace
 
-ObjectGraph::ObjectGraph() : WindowObject(ObjectType::Graph), m_parameters(1) {}
+ObjectGraph::ObjectGraph() : m_parameters(1) {}
 
 ObjectGraph::~ObjectGraph() = default;
-
-std::unique_ptr<Object> ObjectGraph::create()
-{
-    return std::make_unique<ObjectGraph>();
-}
-
-ObjectTypeInfo ObjectGraph::typeInfo()
-{
-    return makeObjectTypeInfo(ObjectType::Graph, &ObjectGraph::create);
-}
-
-void ObjectGraph::writeMode(RecordWriter& writer) const
-{
-    describe(writer, m_settings);
-}
-
-void ObjectGraph::readMode(RecordReader& reader)
-{
-    describe(reader, m_settings);
-}
 
 void ObjectGraph::writeChildrenAfterFilter(QDomDocument& document, QDomElement& element) const
 {

@@ -1,21 +1,28 @@
 #pragma once
 
 #include "project/GraphParameter.h"
-#include "project/ObjectTypeInfo.h"
-#include "project/WindowObject.h"
+#include "project/SettingsObject.h"
 
 #include <vector>
 
+/// `Mode` of an oscilloscope.
+struct GraphSettings
+{
+    bool inputOn = true;
+    QString inputInterface = allInterfacesName();
+
+    template <typename Archive, typename Record>
+    static void describe(Archive& archive, Record& record)
+    {
+        archive.field("inputOn", record.inputOn);
+        archive.field("inputInterface", record.inputInterface, allInterfacesName());
+    }
+};
+
 /// The settings of an oscilloscope, with its traces. A new one has one trace.
-class ObjectGraph : public WindowObject
+class ObjectGraph : public SettingsObject<ObjectGraph, GraphSettings, ObjectType::Graph>
 {
 public:
-    struct Settings
-    {
-        bool inputOn = true;
-        QString inputInterface = allInterfacesName();
-    };
-
     struct Graph
     {
         double xRange = 60.0; ///< seconds
@@ -37,24 +44,16 @@ public:
     ObjectGraph();
     ~ObjectGraph() override;
 
-    static std::unique_ptr<Object> create();
-    static ObjectTypeInfo typeInfo();
-
-    Settings& settings() { return m_settings; }
-    const Settings& settings() const { return m_settings; }
     Graph& graph() { return m_graph; }
     const Graph& graph() const { return m_graph; }
     std::vector<GraphParameter>& parameters() { return m_parameters; }
     const std::vector<GraphParameter>& parameters() const { return m_parameters; }
 
 protected:
-    void writeMode(RecordWriter& writer) const override;
-    void readMode(RecordReader& reader) override;
     void writeChildrenAfterFilter(QDomDocument& document, QDomElement& element) const override;
     void readChild(const QDomElement& element) override;
 
 private:
-    Settings m_settings;
     Graph m_graph;
     std::vector<GraphParameter> m_parameters;
 };

@@ -1,33 +1,31 @@
 #pragma once
 
-#include "project/ObjectTypeInfo.h"
-#include "project/WindowObject.h"
+#include "project/SettingsObject.h"
+
+/// `Mode` of a Node Service window.
+struct NodeServiceSettings
+{
+    std::int32_t numberType = 0; ///< 0 decimal, 1 hexadecimal
+    QString inputInterface = allInterfacesName();
+    QString outputInterface = allInterfacesName();
+
+    template <typename Archive, typename Record>
+    static void describe(Archive& archive, Record& record)
+    {
+        archive.field("numberType", record.numberType);
+        archive.field("inputInterface", record.inputInterface, allInterfacesName());
+        archive.field("outputInterface", record.outputInterface, allInterfacesName());
+    }
+};
 
 /// The settings of a Node Service window.
-class ObjectNodeService : public WindowObject
+class ObjectNodeService
+    : public SettingsObject<ObjectNodeService, NodeServiceSettings, ObjectType::NodeService>
 {
 public:
-    struct Settings
-    {
-        std::int32_t numberType = 0; ///< 0 decimal, 1 hexadecimal
-        QString inputInterface = allInterfacesName();
-        QString outputInterface = allInterfacesName();
-    };
-
     ObjectNodeService();
     ~ObjectNodeService() override;
 
-    static std::unique_ptr<Object> create();
-    static ObjectTypeInfo typeInfo();
-
-    Settings& settings() { return m_settings; }
-    const Settings& settings() const { return m_settings; }
-
 protected:
     bool hasFilter() const override;
-    void writeMode(RecordWriter& writer) const override;
-    void readMode(RecordReader& reader) override;
-
-private:
-    Settings m_settings;
 };

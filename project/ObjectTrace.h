@@ -1,36 +1,33 @@
 #pragma once
 
-#include "project/ObjectTypeInfo.h"
-#include "project/WindowObject.h"
+#include "project/SettingsObject.h"
+
+/// `Mode` of a Trace window.
+struct TraceSettings
+{
+    bool inputOn = true;
+    std::int32_t displayMode = 0; ///< 0 CAN, 3 CANaerospace, 4 ARINC 825 Raw, 6 ARINC 825 Profile
+    std::int32_t numberType = 0;  ///< 0 decimal, 1 hexadecimal
+    std::int32_t traceFormat = 0;
+    QString inputInterface = allInterfacesName();
+    QString outputInterface = allInterfacesName();
+
+    template <typename Archive, typename Record>
+    static void describe(Archive& archive, Record& record)
+    {
+        archive.field("inputOn", record.inputOn);
+        archive.field("displayMode", record.displayMode);
+        archive.field("numberType", record.numberType);
+        archive.field("traceFormat", record.traceFormat);
+        archive.field("inputInterface", record.inputInterface, allInterfacesName());
+        archive.field("outputInterface", record.outputInterface, allInterfacesName());
+    }
+};
 
 /// The settings of a Trace window.
-class ObjectTrace : public WindowObject
+class ObjectTrace : public SettingsObject<ObjectTrace, TraceSettings, ObjectType::Trace>
 {
 public:
-    struct Settings
-    {
-        bool inputOn = true;
-        std::int32_t displayMode =
-            0; ///< 0 CAN, 3 CANaerospace, 4 ARINC 825 Raw, 6 ARINC 825 Profile
-        std::int32_t numberType = 0; ///< 0 decimal, 1 hexadecimal
-        std::int32_t traceFormat = 0;
-        QString inputInterface = allInterfacesName();
-        QString outputInterface = allInterfacesName();
-    };
-
     ObjectTrace();
     ~ObjectTrace() override;
-
-    static std::unique_ptr<Object> create();
-    static ObjectTypeInfo typeInfo();
-
-    Settings& settings() { return m_settings; }
-    const Settings& settings() const { return m_settings; }
-
-protected:
-    void writeMode(RecordWriter& writer) const override;
-    void readMode(RecordReader& reader) override;
-
-private:
-    Settings m_settings;
 };

@@ -9,16 +9,6 @@ const QString messageTag = QStringLiteral("Message");
 const QString payloadAttribute = QStringLiteral("msg");
 
 template <typename Archive, typename Record>
-void describe(Archive& archive, Record& record)
-{
-    archive.field("outputOn", record.outputOn);
-    archive.field("autoTx", record.autoTx);
-    archive.field("displayMode", record.displayMode);
-    archive.field("numberType", record.numberType);
-    archive.field("outputInterface", record.outputInterface, allInterfacesName());
-}
-
-template <typename Archive, typename Record>
 void describeLine(Archive& archive, Record& line)
 {
     const SendMsg fresh;
@@ -59,33 +49,13 @@ void readPayload(const QString& text, zul::MessageData& data)
 
 } // namespace
 
-ObjectTransmit::ObjectTransmit() : WindowObject(ObjectType::Transmit) {}
+ObjectTransmit::ObjectTransmit() = default;
 
 ObjectTransmit::~ObjectTransmit() = default;
-
-std::unique_ptr<Object> ObjectTransmit::create()
-{
-    return std::make_unique<ObjectTransmit>();
-}
-
-ObjectTypeInfo ObjectTransmit::typeInfo()
-{
-    return makeObjectTypeInfo(ObjectType::Transmit, &ObjectTransmit::create);
-}
 
 bool ObjectTransmit::hasFilter() const
 {
     return false;
-}
-
-void ObjectTransmit::writeMode(RecordWriter& writer) const
-{
-    describe(writer, m_settings);
-}
-
-void ObjectTransmit::readMode(RecordReader& reader)
-{
-    describe(reader, m_settings);
 }
 
 void ObjectTransmit::writeChildren(QDomDocument& document, QDomElement& element) const
