@@ -127,6 +127,11 @@ void DialogMain::buildMenus()
     m_extrasMenu->addAction(m_actions[MainAction::ProfileEditor]);
     m_helpMenu->addAction(m_actions[MainAction::About]);
     m_helpMenu->addAction(m_actions[MainAction::Help]);
+    // Their windows come with later versions.
+    for (const MainAction id : {MainAction::About, MainAction::Help, MainAction::Preferences,
+                                MainAction::ProfileEditor}) {
+        m_actions[id]->setEnabled(false);
+    }
     connect(m_fileMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuFileAbout);
     connect(m_viewMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuViewAbout);
     connect(m_windowMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuWindowAbout);
@@ -215,7 +220,6 @@ void DialogMain::refreshPanels()
 
 void DialogMain::showReplacedProject()
 {
-    openProjectWindows();
     refreshPanels();
     Kernel::instance().notify(Kernel::interfacesAspect);
     updateTitle();

@@ -79,6 +79,7 @@ void DialogMain::openProject()
     }
     // Deliberate: also after a cancelled dialog, which brings the windows back as they were marked
     // in the file.
+    openProjectWindows();
     showReplacedProject();
 }
 
@@ -155,6 +156,7 @@ void DialogMain::slotMenuRecent(QAction* action)
     m_desk->deleteAll();
     m_projectPanel->setProject(nullptr);
     loadProject(path);
+    openProjectWindows();
     showReplacedProject();
 }
 

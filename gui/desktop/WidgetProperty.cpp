@@ -272,8 +272,8 @@ void WidgetProperty::slotBtr()
     // Deliberate: BTR1 is the high byte here, while showBtr() fills BTR0 with the high byte; once
     // the value is shown again, the two fields stand exchanged. Projects keep values that were
     // entered this way.
-    const std::uint32_t value = ((fromHexadecimal(m_btr1->text()) & byteMask) << byteBits) |
-                                (fromHexadecimal(m_btr0->text()) & byteMask);
+    const std::uint32_t value =
+        (fromHexadecimal(m_btr1->text()) << byteBits) | fromHexadecimal(m_btr0->text());
     m_btr0->setModified(false);
     m_btr1->setModified(false);
     changeNumber(static_cast<int>(value));

@@ -180,6 +180,20 @@ TEST_F(DialogMainTest, HeartbeatRunsByItself)
     EXPECT_TRUE(QTest::qWaitFor([&] { return !title().endsWith(QStringLiteral(" (edited)")); }));
 }
 
+TEST_F(DialogMainTest, ActionsWhoseWindowsAreToComeAreDisabled)
+{
+    startAndTick();
+    int disabled = 0;
+    for (const QAction* action : m_window->findChildren<QAction*>()) {
+        const int id = action->data().toInt();
+        if (action->data().isValid() && (id == 7 || id == 8 || id == 13 || id == 14)) {
+            EXPECT_FALSE(action->isEnabled()) << id;
+            ++disabled;
+        }
+    }
+    EXPECT_EQ(disabled, 4);
+}
+
 TEST_F(DialogMainTest, ActionsWithoutAMenuDoNothing)
 {
     startAndTick();
@@ -246,6 +260,16 @@ TEST_F(RestoreTopLevel, AlwaysFollowsEveryProject)
     EXPECT_EQ(geometry(), QRect(31, 17, 811, 607));
     moveAwayAndReload();
     EXPECT_EQ(geometry(), QRect(31, 17, 811, 607));
+}
+
+TEST_F(RestoreTopLevel, NewProjectLeavesTheWindowWhereItIs)
+{
+    setValue(2);
+    startAndTick();
+    m_window->resize(900, 700);
+    m_window->move(5, 6);
+    trigger(0);
+    EXPECT_EQ(geometry(), QRect(5, 6, 900, 700));
 }
 
 TEST_F(RestoreTopLevel, AnotherNumberCountsAtTheStartOnly)

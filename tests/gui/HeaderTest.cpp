@@ -83,6 +83,8 @@ TEST_F(HeaderTest, DeletingTheShownInterfaceRebuildsTheMenuAndKeepsTheName)
     m_project.deleteObject(id);
     changed();
     EXPECT_EQ(names(select), QStringList{QStringLiteral("All Interfaces")});
+    EXPECT_EQ(select.findChild<QToolButton*>(QStringLiteral("interfaceButton"))->text(),
+              QStringLiteral("Nose"));
     EXPECT_EQ(select.interface(), QStringLiteral("Nose"));
 }
 

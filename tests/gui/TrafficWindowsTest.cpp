@@ -129,6 +129,16 @@ TEST_F(DialogReceiveTest, FrameBecomesAGreenRow)
     EXPECT_FALSE(row.data(0, Qt::UserRole).isValid());
 }
 
+TEST_F(DialogReceiveTest, RowsStayGreenWhileNoBatchComes)
+{
+    feed(batchOf(1, 1));
+    ASSERT_TRUE(painted(2, "S 1"));
+    m_clock.advance(10.0);
+    QTest::qWait(3 * gui::DialogReceive::paintPeriodMs); // paintings alone age nothing
+    EXPECT_EQ(m_tree->topLevelItem(0)->background(0).color(), QColor(220, 255, 220));
+    EXPECT_TRUE(m_dialog->table().row(0).active);
+}
+
 TEST_F(DialogReceiveTest, SilentRowTurnsWhiteAtTheNextBatchAfterHalfASecond)
 {
     feed(batchOf(1, 1));
