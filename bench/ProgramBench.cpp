@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QKeySequence>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QTimer>
@@ -69,7 +70,7 @@ public:
         : m_options(options),
           m_project(app::objectTypeInfos(), QString()),
           m_area(new QMdiArea(&m_window)),
-          m_desk(*m_area, m_project, &m_window)
+          m_desk(*m_area, m_project, QKeySequence(), &m_window)
     {
         m_window.setCentralWidget(m_area);
         m_window.resize(windowSize);

@@ -63,7 +63,7 @@ public:
     void drain(const std::string& frames)
     {
         m_interface.device()->setProperty("Give", frames);
-        m_interface.drainDevice();
+        m_interface.link().drain();
     }
     void poll() { m_interface.poll(); }
     /// Frames that the last of the objects got so far.

@@ -57,6 +57,9 @@ public:
     bool poll() override;
     bool isConnected() const { return m_link->isConnected(); }
 
+    /// What the reader thread sees of the interface.
+    DeviceLink& link() { return *m_link; }
+
     static constexpr int defaultExtent = 400; ///< window size, both ways, in pixels
 
 private:
