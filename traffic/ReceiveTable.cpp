@@ -10,10 +10,9 @@ void ReceiveTable::update(const MessageContainer& batch, bool inputOn, const Fil
                           double now)
 {
     if (now < m_latest) {
-        // The wall clock was set back: frames that come now are older than those of before.
-        m_orderedFrom = m_latest + silentAfter;
+        setBack(now);
     }
-    m_latest = std::max(m_latest, now);
+    m_latest = now;
     for (const auto& message : batch.messages()) {
         const auto* frame = message_cast<MessageCan>(message.get());
         if (frame == nullptr) {
@@ -32,8 +31,8 @@ void ReceiveTable::clear()
     m_rows.clear();
     m_index.clear();
     m_dirty.clear();
-    m_oldest = none;
-    m_newest = none;
+    m_sightings.clear();
+    m_ahead.clear();
 }
 
 void ReceiveTable::clearDirty()
@@ -62,73 +61,59 @@ int ReceiveTable::findOrAddRow(std::uint32_t key)
 
 void ReceiveTable::takeFrame(int index, const MessageCan& frame, double now)
 {
-    ReceiveRow& row = entry(index).row;
-    row.msg = frame;
-    row.active = true;
-    row.lastTime = now;
-    ++row.count;
-    markDirty(index);
-    if (index != m_newest) {
-        unlink(index);
-        linkAtEnd(index);
+    ReceiveRow& taken = row(index);
+    if (!taken.active || taken.count == 0 || taken.lastTime != now) {
+        m_sightings.push_back({now, index});
     }
+    taken.msg = frame;
+    taken.active = true;
+    taken.lastTime = now;
+    ++taken.count;
+    markDirty(index);
 }
 
 void ReceiveTable::markDirty(int index)
 {
-    ReceiveRow& row = entry(index).row;
-    if (!row.dirty) {
-        row.dirty = true;
+    ReceiveRow& marked = row(index);
+    if (!marked.dirty) {
+        marked.dirty = true;
         m_dirty.push_back(index);
     }
 }
 
-void ReceiveTable::linkAtEnd(int index)
+void ReceiveTable::setBack(double now)
 {
-    Entry& linked = entry(index);
-    linked.previous = m_newest;
-    linked.next = none;
-    linked.isLinked = true;
-    if (m_newest != none) {
-        entry(m_newest).next = index;
-    } else {
-        m_oldest = index;
+    while (!m_sightings.empty() && m_sightings.back().time > now) {
+        m_ahead.push_back(m_sightings.back());
+        m_sightings.pop_back();
     }
-    m_newest = index;
-}
-
-void ReceiveTable::unlink(int index)
-{
-    Entry& linked = entry(index);
-    if (!linked.isLinked) {
-        return;
-    }
-    if (linked.previous != none) {
-        entry(linked.previous).next = linked.next;
-    } else {
-        m_oldest = linked.next;
-    }
-    if (linked.next != none) {
-        entry(linked.next).previous = linked.previous;
-    } else {
-        m_newest = linked.previous;
-    }
-    linked.isLinked = false;
 }
 
 void ReceiveTable::age(double now)
 {
-    const bool inOrder = now > m_orderedFrom;
-    for (int index = m_oldest; index != none;) {
-        Entry& candidate = entry(index);
-        const int next = candidate.next;
-        if (now - candidate.row.lastTime > silentAfter) {
-            candidate.row.active = false;
-            unlink(index);
-            markDirty(index);
-        } else if (inOrder) {
-            return;
+    const auto isSilent = [this, now](const Sighting& sighting) {
+        const ReceiveRow& seen = row(sighting.row);
+        return seen.active && now - seen.lastTime > silentAfter;
+    };
+    while (!m_sightings.empty() && now - m_sightings.front().time > silentAfter) {
+        if (isSilent(m_sightings.front())) {
+            silence(m_sightings.front().row);
         }
-        index = next;
+        m_sightings.pop_front();
     }
+    // Kept until the clock has come that far again, or a later frame stands for the row.
+    const auto isDone = [&](const Sighting& sighting) {
+        if (isSilent(sighting)) {
+            silence(sighting.row);
+        }
+        const ReceiveRow& seen = row(sighting.row);
+        return !seen.active || seen.lastTime != sighting.time;
+    };
+    m_ahead.erase(std::remove_if(m_ahead.begin(), m_ahead.end(), isDone), m_ahead.end());
+}
+
+void ReceiveTable::silence(int index)
+{
+    row(index).active = false;
+    markDirty(index);
 }

@@ -44,8 +44,8 @@ public:
     void clear();
 
     int rowCount() const { return static_cast<int>(m_rows.size()); }
-    ReceiveRow& row(int index) { return m_rows[static_cast<std::size_t>(index)].row; }
-    const ReceiveRow& row(int index) const { return m_rows[static_cast<std::size_t>(index)].row; }
+    ReceiveRow& row(int index) { return m_rows[static_cast<std::size_t>(index)]; }
+    const ReceiveRow& row(int index) const { return m_rows[static_cast<std::size_t>(index)]; }
 
     /// Indices of the rows that changed since `clearDirty`, each once.
     const std::vector<int>& dirtyRows() const { return m_dirty; }
@@ -57,32 +57,28 @@ public:
     std::uint32_t receivedTotal() const { return m_receivedTotal; }
 
 private:
-    static constexpr int none = -1;
-
-    // The active rows form a list in the order of their last frames, so that ageing looks at its
-    // front alone.
-    struct Entry
+    /// That a row had a frame at that time, in seconds.
+    struct Sighting
     {
-        ReceiveRow row;
-        int previous = none;
-        int next = none;
-        bool isLinked = false;
+        double time;
+        int row;
     };
 
     int findOrAddRow(std::uint32_t key);
     void takeFrame(int index, const zul::MessageCan& frame, double now);
     void markDirty(int index);
-    void linkAtEnd(int index);
-    void unlink(int index);
     void age(double now);
-    Entry& entry(int index) { return m_rows[static_cast<std::size_t>(index)]; }
+    void setBack(double now);
+    void silence(int index);
 
-    std::deque<Entry> m_rows;
+    std::deque<ReceiveRow> m_rows;
     std::unordered_map<std::uint32_t, int> m_index;
     std::vector<int> m_dirty;
-    int m_oldest = none;
-    int m_newest = none;
-    double m_latest = 0.0;      // the latest `now` so far
-    double m_orderedFrom = 0.0; // until then the list is not in order of time
+    // At least the last sighting of every active row, in order of time: ageing looks at the front
+    // alone.
+    std::deque<Sighting> m_sightings;
+    // Those that lie ahead of a clock that was set back.
+    std::vector<Sighting> m_ahead;
+    double m_latest = 0.0; // the `now` of the last update
     std::uint32_t m_receivedTotal = 0;
 };
