@@ -1,0 +1,80 @@
+#include "profile/ProfileReport.h"
+
+#include "core/Clock.h"
+
+#include <QDateTime>
+
+namespace zul {
+
+namespace {
+
+const QString closingLine =
+    QStringLiteral("<b>Report too long. Further messages are left out.</b><br>");
+
+} // namespace
+
+bool appendToReport(QString& report, const QString& message, int maxLength)
+{
+    if (report.size() + message.size() <= maxLength) {
+        report += message;
+        return true;
+    }
+    if (!report.endsWith(closingLine)) {
+        report += closingLine;
+    }
+    return false;
+}
+
+QString reportTime()
+{
+    const QDateTime now = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(wallClock() * 1e3));
+    return now.toString(QStringLiteral("dd.MM.yyyy hh:mm:ss"));
+}
+
+QString reportHead(const QString& fileName)
+{
+    return QStringLiteral("Profile : %1<br>Time    : %2<br><br>")
+        .arg(fileName.toHtmlEscaped(), reportTime());
+}
+
+QByteArray reportText(const QString& text)
+{
+    return text.toHtmlEscaped().toUtf8();
+}
+
+ProfileReport::ProfileReport(const QString& fileName, bool& valid, QString& result)
+    : m_valid(valid), m_result(result)
+{
+    m_valid = true;
+    m_result = reportHead(fileName);
+}
+
+void ProfileReport::error(int line, const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    add(line, errorPrefix, format, arguments);
+    va_end(arguments);
+}
+
+void ProfileReport::warning(int line, const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    add(line, warningPrefix, format, arguments);
+    va_end(arguments);
+}
+
+void ProfileReport::add(int line, const char* prefix, const char* format, va_list arguments)
+{
+    m_valid = false;
+    if (m_full) {
+        return;
+    }
+    const QString message = QStringLiteral("Line ") + QString::number(line) + QStringLiteral(": ") +
+                            QLatin1String(prefix) + QLatin1Char(' ') +
+                            QString::vasprintf(format, arguments) + QStringLiteral("<br>");
+    m_full = !appendToReport(m_result, message);
+}
+
+} // namespace zul

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <cstdint>
+
+namespace zul {
+
+/// The next number of the process-wide counter that gives profile records their identity. It starts
+/// at 0; maps keyed by it iterate in order of creation. Main thread only.
+std::uint32_t nextSerial();
+
+} // namespace zul
