@@ -1,8 +1,50 @@
 #include "profile/ProfileStore.h"
 
+#include "core/DirectoryListing.h"
 #include "core/SettingsStore.h"
 #include "profile/Arinc825Id.h"
 #include "profile/DataTypes.h"
+#include "profile/ProfileCrossCheck.h"
+#include "profile/ProfileReport.h"
+#include "profile/TextProfileReader.h"
+#include "profile/TextProfileWriter.h"
+#include "profile/XmlSource.h"
+#include "profile/ZorbProfileReader.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <utility>
+
+namespace {
+
+const QLatin1String arincProfileRoot("Arinc825Profile");
+// Deliberate: the reader of ZORB profiles wants "ZORBprofile", so that none comes this way.
+const QLatin1String zorbProfileGate("ZORBProfile");
+
+// Version 0 of the setting is ARINC 825-2 in text form, all others ARINC 825-3 in XML.
+bool isXmlVersion()
+{
+    return SettingsStore::instance().integer(QStringLiteral("ArincProfileVersion"), 0) != 0;
+}
+
+QString suffixOf(const QString& fileName)
+{
+    const int dot = fileName.lastIndexOf(QLatin1Char('.'));
+    return dot >= 0 ? fileName.mid(dot) : QString();
+}
+
+QStringList searchPath()
+{
+    QStringList path{QStringLiteral(".")};
+    if (qEnvironmentVariableIsSet("ZUL_HOME")) {
+        const QString home = qEnvironmentVariable("ZUL_HOME");
+        path << home + QStringLiteral("/bin") << home;
+    }
+    return path;
+}
+
+} // namespace
 
 ProfileStore& ProfileStore::instance()
 {
@@ -38,8 +80,7 @@ void ProfileStore::rebuildFidTables()
 
 const zul::CodeTable& ProfileStore::currentFidTable() const
 {
-    const int version = SettingsStore::instance().integer(QStringLiteral("ArincProfileVersion"), 0);
-    return version != 0 ? m_fidTable825Part3 : m_fidTable825Part2;
+    return isXmlVersion() ? m_fidTable825Part3 : m_fidTable825Part2;
 }
 
 std::uint32_t ProfileStore::canAerospaceTypeCode(const QString& name)
@@ -59,4 +100,127 @@ QString ProfileStore::enumText(std::int32_t enumId, std::int32_t value) const
         return QString::number(value) + QStringLiteral(": Invalid ENUM Value");
     }
     return QString::number(value) + QStringLiteral(": ") + found->second.label;
+}
+
+void ProfileStore::loadAll()
+{
+    unloadAll();
+    rebuildFidTables();
+    m_allValid = true;
+    m_checkResult.clear();
+    const SettingsStore& settings = SettingsStore::instance();
+    const QString arincSuffix = settings.string(QStringLiteral("Arinc825ProfileSuffix"), QString());
+    const QString zorbSuffix = settings.string(QStringLiteral("CanAsProfileSuffix"), QString());
+    for (const QString& directory : searchPath()) {
+        loadDirectory(directory, arincSuffix, zorbSuffix);
+    }
+    collectEnumerations();
+    rebuildFidTables();
+}
+
+void ProfileStore::loadDirectory(const QString& directory, const QString& arincSuffix,
+                                 const QString& zorbSuffix)
+{
+    // Deliberate: the bare names are opened, in the working directory.
+    for (const QString& fileName : zul::fileNamesWithPoint(directory)) {
+        const QString suffix = suffixOf(fileName);
+        if (suffix == arincSuffix) {
+            loadArincProfile(fileName);
+        }
+        if (suffix == zorbSuffix) {
+            loadZorbProfile(fileName);
+        }
+    }
+}
+
+void ProfileStore::loadArincProfile(const QString& fileName)
+{
+    ArincProfile profile;
+    if (!readProfile(fileName, profile)) {
+        return;
+    }
+    const auto found = m_profiles.find(profile.name);
+    if (found == m_profiles.end()) {
+        const QString name = profile.name;
+        m_profiles.emplace(name, std::move(profile));
+        return;
+    }
+    // Deliberate: the parameters of the profile that is dropped stay in the index.
+    m_allValid = false;
+    zul::appendToReport(m_checkResult,
+                        zul::sameNameMessage(profile.fileName, found->second.fileName));
+}
+
+void ProfileStore::loadZorbProfile(const QString& fileName)
+{
+    ZorbProfile profile;
+    if (zul::readZorbProfile(fileName, *this, profile)) {
+        const QString name = profile.name;
+        m_zorbProfiles[name] = std::move(profile);
+    }
+}
+
+bool ProfileStore::loadFile(const QString& path)
+{
+    m_allValid = true;
+    m_checkResult.clear();
+    const std::optional<QString> root = zul::xmlRootName(path);
+    if (!root) {
+        return false; // Deliberate: also for a text profile, although the file dialog offers it
+    }
+    bool isLoaded = false;
+    if (*root == arincProfileRoot) {
+        ArincProfile profile;
+        isLoaded = readProfile(path, profile);
+        if (isLoaded) {
+            const QString name = profile.name;
+            m_profiles[name] = std::move(profile);
+        }
+    } else if (*root == zorbProfileGate) {
+        ZorbProfile profile;
+        isLoaded = zul::readZorbProfile(path, *this, profile);
+        if (isLoaded) {
+            const QString name = profile.name;
+            m_zorbProfiles[name] = std::move(profile);
+        }
+    }
+    collectEnumerations();
+    rebuildFidTables();
+    return isLoaded;
+}
+
+void ProfileStore::unloadAll()
+{
+    m_profiles.clear();
+    m_zorbProfiles.clear();
+    m_enumerations.clear();
+    m_parameterIndex.clear();
+}
+
+bool ProfileStore::checkAll(QString& report)
+{
+    if (!zul::crossCheck(m_profiles, m_checkResult)) {
+        m_allValid = false;
+    }
+    report = m_checkResult;
+    return m_allValid;
+}
+
+bool ProfileStore::readProfile(const QString& path, ArincProfile& profile)
+{
+    return zul::readTextProfile(path, *this, profile);
+}
+
+bool ProfileStore::writeProfile(const QString& path, const ArincProfile& profile) const
+{
+    return zul::writeTextProfile(path, *this, profile);
+}
+
+void ProfileStore::collectEnumerations()
+{
+    for (const auto& [profileName, profile] : m_profiles) {
+        for (const auto& [name, enumeration] : profile.enums) {
+            m_enumerations[enumeration.enumId] = enumeration;
+        }
+    }
 }

@@ -86,7 +86,6 @@ private:
     void loadArincProfile(const QString& fileName);
     void loadZorbProfile(const QString& fileName);
     void collectEnumerations();
-    void report(const QString& message);
 
     Profiles m_profiles;
     ZorbProfiles m_zorbProfiles;

@@ -1,0 +1,270 @@
+#include "profile/ProfileChecks.h"
+
+#include "profile/ComposedId.h"
+#include "profile/DataTypes.h"
+#include "profile/ProfileStore.h"
+
+namespace zul {
+
+namespace {
+
+constexpr int maxTextLength = 255;
+constexpr std::uint32_t maxProfileId = 65535;
+constexpr std::uint32_t maxFid = fidCount - 1;
+constexpr std::uint32_t maxNid = 65535;
+// Deliberate: one more than the field holds; it is cut to 0 when the identifier is composed.
+constexpr std::uint32_t maxDoc = 16384;
+constexpr std::uint32_t maxPuc = 999;
+constexpr std::uint32_t minUserUnit = 100;
+constexpr std::uint32_t maxRci = 3;
+constexpr std::int32_t unknownEnumId = -1;
+
+int shown(std::uint32_t number)
+{
+    return static_cast<int>(number);
+}
+
+} // namespace
+
+ProfileChecks::ProfileChecks(ProfileStore& store, const CodeTable& fidTable, ArincProfile& profile,
+                             ProfileReport& report)
+    : m_store(store), m_fidTable(fidTable), m_profile(profile), m_report(report)
+{
+}
+
+void ProfileChecks::checkProfileName(int line)
+{
+    if (m_profile.name.size() > maxTextLength) {
+        m_report.warning(line, "Profile name has more than 255 characters");
+    }
+}
+
+void ProfileChecks::checkProfileIds(int line)
+{
+    if (m_profile.id > maxProfileId) {
+        m_report.error(line, "Profile Id %d out of range [0..65535]", shown(m_profile.id));
+    }
+    if (m_profile.subId > maxProfileId) {
+        m_report.error(line, "Profile Sub-Id %d out of range [0..65535]", shown(m_profile.subId));
+    }
+}
+
+bool ProfileChecks::isReserved(const CodeTable& table, std::uint32_t fid) const
+{
+    const auto found = table.find(fid);
+    return found != table.end() && found->second == QLatin1String(reservedFid);
+}
+
+void ProfileChecks::addUserFid(int line, const ProfileUserFid& userFid)
+{
+    const QByteArray name = reportText(userFid.name);
+    const int code = shown(userFid.code);
+    if (!m_profile.userFids.emplace(userFid.code, userFid).second) {
+        m_report.error(line, "User FID %d (%s) exists already ", code, name.constData());
+    }
+    const CodeTable& table = m_store.fidTable825Part2();
+    if (userFid.code > maxFid) {
+        m_report.error(line, "User FID %d (%s) invalid. Range must be in [0..127]", code,
+                       name.constData());
+    } else if (!isReserved(table, userFid.code)) {
+        m_report.error(line, "User FID %d (%s) conflicts with standard FID %d (%s)", code,
+                       name.constData(), code, reportText(table.at(userFid.code)).constData());
+    }
+}
+
+void ProfileChecks::addUserUnit(int line, const ProfileUserUnit& userUnit)
+{
+    const QByteArray name = reportText(userUnit.name);
+    const int code = shown(userUnit.code);
+    if (!m_profile.userUnits.emplace(userUnit.code, userUnit).second) {
+        m_report.error(line, "User Unit %d (%s) already exists", code, name.constData());
+    }
+    if (userUnit.code < minUserUnit || userUnit.code > maxPuc) {
+        m_report.error(line, "User Unit %d (%s) invalid. Range must be in [100..999]", code,
+                       name.constData());
+    }
+}
+
+void ProfileChecks::addEnumValue(int line, ProfileEnum& enumeration, std::int32_t value,
+                                 const QString& label)
+{
+    if (enumeration.values.count(value) != 0) {
+        m_report.error(line, "Enumeration Value %d (%s) already exists", value,
+                       reportText(label).constData());
+    }
+    ProfileEnumValue& entry = enumeration.values[value];
+    entry = ProfileEnumValue{};
+    entry.value = value;
+    entry.label = label;
+}
+
+void ProfileChecks::setChannel(int line, const QString& name, ProfileParameter& parameter)
+{
+    const auto found = m_store.lccNames().find(name);
+    if (found != m_store.lccNames().end()) {
+        parameter.lcc = found->second;
+        return;
+    }
+    m_report.error(line, "wrong LCC identifier %s. Valid LCCs are EEC, NOC, NSC, UDC, TMC or FMC.",
+                   reportText(name).constData());
+}
+
+void ProfileChecks::checkFid(int line, const ProfileParameter& parameter)
+{
+    const std::uint32_t fid = parameter.fid;
+    if (fid > maxFid) {
+        m_report.error(line, "FID %d invalid. Range must be in [0..127]", shown(fid));
+    } else if (isReserved(m_fidTable, fid) && m_profile.userFids.count(fid) == 0) {
+        m_report.error(line, "FID %d not defined. Define a User FID or use a standard FID",
+                       shown(fid));
+    }
+}
+
+void ProfileChecks::checkDoc(int line, const ProfileParameter& parameter)
+{
+    if (!hasDoc(parameter.lcc)) {
+        if (parameter.doc > maxNid) {
+            m_report.error(line, "NID %d out of range. Range must be in [0..65535]",
+                           shown(parameter.doc));
+        }
+    } else if (parameter.doc > maxDoc) {
+        m_report.error(line, "DOC %d out of range. Range must be in [0..16384]",
+                       shown(parameter.doc));
+    }
+}
+
+void ProfileChecks::checkDfid(int line, const ProfileParameter& parameter)
+{
+    if (parameter.dfid > maxFid) {
+        m_report.error(line, "DFID %d out of range. Range must be in [0..127]",
+                       shown(parameter.dfid));
+    }
+}
+
+void ProfileChecks::checkLclPvt(int line, const ProfileParameter& parameter)
+{
+    if (parameter.lcl > 1) {
+        m_report.error(line, "LCL %d out of range. Range must be in [0..1]", shown(parameter.lcl));
+    }
+    if (parameter.pvt > 1) {
+        m_report.error(line, "PVT %d out of range. Range must be in [0..1]", shown(parameter.pvt));
+    }
+}
+
+void ProfileChecks::checkSid(int line, const ProfileParameter& parameter, std::uint32_t max)
+{
+    if (parameter.sid > max) {
+        m_report.error(line, "SID %d out of range. Range must be in [0..%d]", shown(parameter.sid),
+                       shown(max));
+    }
+}
+
+void ProfileChecks::setDataType(int line, const QString& name, ProfileParameter& parameter)
+{
+    parameter.typeName = name;
+    const auto type = m_store.dataTypeNames().find(name);
+    if (type != m_store.dataTypeNames().end()) {
+        parameter.dtc = type->second;
+        return;
+    }
+    parameter.dtc = static_cast<std::uint32_t>(ArincType::Enum);
+    const auto enumeration = m_profile.enums.find(name);
+    if (enumeration != m_profile.enums.end()) {
+        parameter.enumId = enumeration->second.enumId;
+        return;
+    }
+    parameter.enumId = unknownEnumId;
+    m_report.error(line, "Invalid DTN %s", reportText(name).constData());
+}
+
+void ProfileChecks::checkPuc(int line, const ProfileParameter& parameter)
+{
+    if (parameter.puc > maxPuc) {
+        m_report.error(line, "PUC %d out of range. Range must be in [0..999]",
+                       shown(parameter.puc));
+    } else if (m_store.unitTable().count(parameter.puc) == 0 &&
+               m_profile.userUnits.count(parameter.puc) == 0) {
+        m_report.error(line, "PUC %d not defined. Define a User Unit or use a standard unit",
+                       shown(parameter.puc));
+    }
+}
+
+void ProfileChecks::checkNme(int line, const ProfileParameter& parameter)
+{
+    if (parameter.nme.size() > maxTextLength) {
+        m_report.warning(line, "NME has more than 255 characters");
+    }
+}
+
+void ProfileChecks::checkPun(int line, const ProfileParameter& parameter)
+{
+    if (parameter.pun.size() > maxTextLength) {
+        m_report.warning(line, "PUN has more than 255 characters");
+    }
+}
+
+void ProfileChecks::checkRange(int line, const ProfileParameter& parameter)
+{
+    if (parameter.min > parameter.max) {
+        m_report.warning(line, "MIN greater MAX");
+    }
+}
+
+void ProfileChecks::checkUpr(int line, const ProfileParameter& parameter)
+{
+    if (parameter.upr < 0) {
+        m_report.error(line, "UPR invalid value");
+    }
+}
+
+void ProfileChecks::checkLat(int line, const ProfileParameter& parameter)
+{
+    if (parameter.lat < 0.0) {
+        m_report.error(line, "LAT invalid value");
+    }
+}
+
+void ProfileChecks::checkRci(int line, const ProfileParameter& parameter)
+{
+    if (parameter.rci > maxRci) {
+        m_report.error(line, "RCI invalid value");
+    }
+}
+
+void ProfileChecks::checkNotes(int line, const ProfileParameter& parameter)
+{
+    if (parameter.notes.size() > maxTextLength) {
+        m_report.warning(line, "NTS has more than 255 characters");
+    }
+}
+
+void ProfileChecks::file(int line, const ProfileParameter& parameter)
+{
+    if (const std::optional<int> earlier = m_overlaps.mark(parameter, line)) {
+        m_report.warning(line, "Bits of parameter in line %d conflicts with parameter in line %d",
+                         *earlier, line);
+    }
+    auto& parameters = group(parameter.fid).parameters;
+    parameters.emplace_hint(parameters.end(), parameter.serial, parameter);
+    m_store.parameterIndex().emplace(parameter.id, parameter);
+}
+
+ProfileFidGroup& ProfileChecks::group(std::uint32_t fid)
+{
+    const auto found = m_profile.fids.find(fid);
+    if (found != m_profile.fids.end()) {
+        return found->second;
+    }
+    ProfileFidGroup& made = m_profile.fids[fid];
+    made.fid = fid;
+    const auto label = m_fidTable.find(fid);
+    const auto user = m_profile.userFids.find(fid);
+    if (user != m_profile.userFids.end() && isReserved(m_fidTable, fid)) {
+        made.name = user->second.name;
+    } else if (label != m_fidTable.end()) {
+        made.name = label->second;
+    }
+    return made;
+}
+
+} // namespace zul

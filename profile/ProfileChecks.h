@@ -1,0 +1,78 @@
+#pragma once
+
+#include "profile/ArincProfile.h"
+#include "profile/OverlapCheck.h"
+#include "profile/ProfileReport.h"
+#include "profile/StandardTables.h"
+
+#include <QString>
+#include <QStringList>
+
+class ProfileStore;
+
+namespace zul {
+
+/// The rules that the readers of ARINC 825 profiles hold every statement against, and the filing of
+/// what they read. Every rule reports and goes on; nothing is rejected. The line is that of the
+/// statement in its file.
+///
+/// Numbers are compared as unsigned, so that negative ones are out of range too, and shown as
+/// signed.
+class ProfileChecks
+{
+public:
+    /// Highest service identifiers that the two forms accept.
+    static constexpr std::uint32_t maxTextSid = 127;
+    static constexpr std::uint32_t maxXmlSid = 511;
+
+    /// `fidTable` is that of the version of the standard that the form belongs to. All belong to
+    /// the caller and outlive the object.
+    ProfileChecks(ProfileStore& store, const CodeTable& fidTable, ArincProfile& profile,
+                  ProfileReport& report);
+
+    void checkProfileName(int line);
+    void checkProfileIds(int line);
+
+    /// Adds the function code unless it is there, whatever its value.
+    ///
+    /// Deliberate: it is held against the codes of ARINC 825-2 in both forms.
+    void addUserFid(int line, const ProfileUserFid& userFid);
+    void addUserUnit(int line, const ProfileUserUnit& userUnit);
+    /// The later one of two equal values stays.
+    void addEnumValue(int line, ProfileEnum& enumeration, std::int32_t value, const QString& label);
+
+    /// Sets `lcc`; an unknown channel leaves it.
+    void setChannel(int line, const QString& name, ProfileParameter& parameter);
+    void checkFid(int line, const ProfileParameter& parameter);
+    /// DOC or NID, by the channel.
+    void checkDoc(int line, const ProfileParameter& parameter);
+    void checkDfid(int line, const ProfileParameter& parameter);
+    void checkLclPvt(int line, const ProfileParameter& parameter);
+    void checkSid(int line, const ProfileParameter& parameter, std::uint32_t max);
+    /// Sets `typeName`, and `dtc` and `enumId` by it.
+    void setDataType(int line, const QString& name, ProfileParameter& parameter);
+    void checkPuc(int line, const ProfileParameter& parameter);
+    void checkNme(int line, const ProfileParameter& parameter);
+    void checkPun(int line, const ProfileParameter& parameter);
+    void checkRange(int line, const ProfileParameter& parameter);
+    void checkUpr(int line, const ProfileParameter& parameter);
+    void checkLat(int line, const ProfileParameter& parameter);
+    void checkRci(int line, const ProfileParameter& parameter);
+    void checkNotes(int line, const ProfileParameter& parameter);
+
+    /// Holds the parameter's bits against those of the other parameters of its identifier, and adds
+    /// it to its group and to the store's index.
+    void file(int line, const ProfileParameter& parameter);
+
+private:
+    bool isReserved(const CodeTable& table, std::uint32_t fid) const;
+    ProfileFidGroup& group(std::uint32_t fid);
+
+    ProfileStore& m_store;
+    const CodeTable& m_fidTable;
+    ArincProfile& m_profile;
+    ProfileReport& m_report;
+    OverlapCheck m_overlaps;
+};
+
+} // namespace zul

@@ -1,0 +1,125 @@
+#include "profile/ProfileCrossCheck.h"
+
+#include <QStringBuilder>
+
+#include <unordered_map>
+
+namespace zul {
+
+namespace {
+
+// "Profile %s: %s " and the text, with the file and the prefix.
+QString message(const QString& fileName, const QString& text)
+{
+    return QStringLiteral("Profile ") % fileName.toHtmlEscaped() % QStringLiteral(": ") %
+           QLatin1String(errorPrefix) % QLatin1Char(' ') % text % QStringLiteral("<br>");
+}
+
+QString usedBy(const QString& fileName)
+{
+    return QStringLiteral(" already used by ") % fileName.toHtmlEscaped();
+}
+
+QString decimal(std::uint32_t number)
+{
+    return QString::number(static_cast<qint32>(number));
+}
+
+class CrossCheck
+{
+public:
+    explicit CrossCheck(QString& report) : m_report(report) {}
+
+    void take(const ArincProfile& profile)
+    {
+        if (!profile.valid) {
+            append(profile.result);
+        }
+        checkId(profile);
+        for (const auto& [code, fid] : profile.userFids) {
+            checkCode(m_userFids, code, QStringLiteral("FID "), profile);
+        }
+        for (const auto& [code, unit] : profile.userUnits) {
+            checkCode(m_userUnits, code, QStringLiteral("User Unit "), profile);
+        }
+        for (const auto& [fid, group] : profile.fids) {
+            for (const auto& [serial, parameter] : group.parameters) {
+                checkIdentifier(parameter, profile);
+            }
+        }
+    }
+
+    bool isClean() const { return m_isClean; }
+
+private:
+    // File names by number; they belong to the profiles.
+    using Owners = std::unordered_map<std::uint32_t, const QString*>;
+
+    void checkId(const ArincProfile& profile)
+    {
+        const ArincProfile*& other = m_ids[profile.id];
+        if (other != nullptr && other->subId == profile.subId) {
+            append(message(profile.fileName, QStringLiteral("uses the same id/sub-id name as ") %
+                                                 other->fileName.toHtmlEscaped()));
+        }
+        other = &profile;
+    }
+
+    void checkCode(Owners& owners, std::uint32_t code, const QString& what,
+                   const ArincProfile& profile)
+    {
+        const QString*& owner = owners[code];
+        if (owner != nullptr) {
+            append(message(profile.fileName, what % decimal(code) % usedBy(*owner)));
+        }
+        owner = &profile.fileName;
+    }
+
+    // Several parameters of one file may lie in one frame.
+    void checkIdentifier(const ProfileParameter& parameter, const ArincProfile& profile)
+    {
+        const QString*& owner = m_identifiers[parameter.id];
+        if (owner != nullptr && *owner != profile.fileName) {
+            append(message(profile.fileName, QStringLiteral("LCC/FID/DOC ") %
+                                                 decimal(parameter.lcc) % QLatin1Char('/') %
+                                                 decimal(parameter.fid) % QLatin1Char('/') %
+                                                 decimal(parameter.doc) % usedBy(*owner)));
+        }
+        owner = &profile.fileName;
+    }
+
+    void append(const QString& text)
+    {
+        m_isClean = false;
+        if (!m_isFull) {
+            m_isFull = !appendToReport(m_report, text, maxCheckLength);
+        }
+    }
+
+    QString& m_report;
+    std::unordered_map<std::uint32_t, const ArincProfile*> m_ids;
+    Owners m_userFids;
+    Owners m_userUnits;
+    Owners m_identifiers;
+    bool m_isClean = true;
+    bool m_isFull = false;
+};
+
+} // namespace
+
+bool crossCheck(const std::map<QString, ArincProfile>& profiles, QString& report)
+{
+    CrossCheck check(report);
+    for (const auto& [name, profile] : profiles) {
+        check.take(profile);
+    }
+    return check.isClean();
+}
+
+QString sameNameMessage(const QString& fileName, const QString& otherFileName)
+{
+    return message(fileName, QStringLiteral("uses the same profile name as ") %
+                                 otherFileName.toHtmlEscaped());
+}
+
+} // namespace zul

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "profile/ArincProfile.h"
+
+#include <QString>
+
+class ProfileStore;
+
+namespace zul {
+
+/// Writes a profile in the text form. Nothing is checked. False if the file cannot be opened; the
+/// file is replaced in one step, so that a failure later leaves the old one.
+bool writeTextProfile(const QString& path, const ProfileStore& store, const ArincProfile& profile);
+
+} // namespace zul
