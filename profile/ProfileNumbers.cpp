@@ -14,15 +14,16 @@ int decimalNumber(const QString& text)
     bool isNumber = false;
     const qlonglong number = text.toLongLong(&isNumber, 10);
     if (!isNumber) {
-        // Of all digits, but too many.
-        const double large = realNumber(text);
-        const bool isWhole = std::all_of(text.begin(), text.end(), [](QChar character) {
-            return character.isDigit() || character == QLatin1Char('-');
-        });
-        if (!isWhole || large == 0.0) {
+        // Of digits alone, but more than 64 bits hold?
+        const QString digits = text.trimmed();
+        const bool isNegative = digits.startsWith(QLatin1Char('-'));
+        const auto first = digits.begin() + (isNegative ? 1 : 0);
+        const bool isWhole = first != digits.end() &&
+                             std::all_of(first, digits.end(), [](QChar c) { return c.isDigit(); });
+        if (!isWhole) {
             return 0;
         }
-        return large < 0.0 ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+        return isNegative ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
     }
     constexpr qlonglong low = std::numeric_limits<int>::min();
     constexpr qlonglong high = std::numeric_limits<int>::max();
