@@ -24,20 +24,34 @@ void describeGraph(Archive& archive, Record& graph)
     archive.field("yMax", graph.yMax);
 }
 
-template <typename Archive, typename Record>
-void describeParameter(Archive& archive, Record& parameter)
+// The one field whose type is not a number.
+void describeKind(RecordReader& reader, ProfileParameter& parameter)
 {
-    archive.field("active", parameter.active);
+    std::uint32_t kind = 0;
+    reader.field("type", kind);
+    parameter.parameterKind = static_cast<ParameterKind>(kind);
+}
+
+void describeKind(RecordWriter& writer, const ProfileParameter& parameter)
+{
+    writer.field("type", static_cast<std::uint32_t>(parameter.parameterKind));
+}
+
+template <typename Archive, typename Record>
+void describeParameter(Archive& archive, Record& trace)
+{
+    auto& parameter = trace.parameter;
+    archive.field("active", trace.active);
     archive.field("id", parameter.id);
-    archive.field("nme", parameter.name);
-    archive.field("pun", parameter.unit);
+    archive.field("nme", parameter.nme);
+    archive.field("pun", parameter.pun);
     archive.field("color", parameter.color);
-    archive.field("type", parameter.kind);
-    archive.field("dtc", parameter.dataTypeCode);
-    archive.field("sppByte", parameter.startByte);
-    archive.field("sppBit", parameter.startBit);
-    archive.field("eppByte", parameter.endByte);
-    archive.field("eppBit", parameter.endBit);
+    describeKind(archive, parameter);
+    archive.field("dtc", parameter.dtc);
+    archive.field("sppByte", parameter.sppByte);
+    archive.field("sppBit", parameter.sppBit);
+    archive.field("eppByte", parameter.eppByte);
+    archive.field("eppBit", parameter.eppBit);
     archive.field("min", parameter.min);
     archive.field("max", parameter.max);
     archive.field("lsb", parameter.lsb);

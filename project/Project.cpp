@@ -1,6 +1,8 @@
 #include "project/Project.h"
 
+#include "core/SettingsStore.h"
 #include "core/XmlFile.h"
+#include "profile/ProfileStore.h"
 #include "project/InterfaceObject.h"
 
 #include <algorithm>
@@ -25,10 +27,14 @@ using Xml = zul::XmlHandler;
 } // namespace
 
 Project::Project(std::vector<ObjectTypeInfo> types, const QString& defaultFile)
+    : m_profiles(ProfileStore::instance())
 {
     for (ObjectTypeInfo& info : types) {
         m_typesByTag[info.tag] = info.type;
         m_typesById[info.type] = std::move(info);
+    }
+    if (SettingsStore::instance().integer(QStringLiteral("AutoLoadProfile"), 0) != 0) {
+        m_profiles.loadAll();
     }
     load(defaultFile);
 }

@@ -9,6 +9,8 @@
 #include <memory>
 #include <vector>
 
+class ProfileStore;
+
 /// The open document: it owns all objects, wires them, drives the interfaces, and is the project
 /// file.
 class Project
@@ -30,8 +32,8 @@ public:
     /// interface, and each open one is shown.
     static constexpr int maxObjects = 1000;
 
-    /// Registers the types, and opens `defaultFile`. If that is missing, the project is empty and
-    /// its first save makes the file.
+    /// Registers the types, loads all profiles if the user's settings want it, and opens
+    /// `defaultFile`. If that is missing, the project is empty and its first save makes the file.
     Project(std::vector<ObjectTypeInfo> types, const QString& defaultFile);
     ~Project();
     Project(const Project&) = delete;
@@ -54,6 +56,9 @@ public:
     const std::map<int, InterfaceObject*>& interfaces() const { return m_interfaces; }
     /// The registered types by number.
     const Types& types() const { return m_typesById; }
+
+    /// The loaded profiles; they are those of the process and outlive the project.
+    ProfileStore& profiles() const { return m_profiles; }
 
     bool isEdited() const { return m_edited; }
     void markEdited() { m_edited = true; }
@@ -82,6 +87,7 @@ private:
     void readTopLevelWindow(const QDomElement& element);
     QDomDocument toDocument() const;
 
+    ProfileStore& m_profiles;
     QString m_fileName;
     bool m_edited = false;
     Types m_typesById;

@@ -4,6 +4,7 @@
 #include "core/Latin1.h"
 #include "core/SettingsStore.h"
 #include "core/Version.h"
+#include "gui/desktop/DialogProfile.h"
 #include "gui/desktop/DialogProfileResult.h"
 #include "gui/desktop/DialogProject.h"
 #include "gui/desktop/DialogTasks.h"
@@ -66,6 +67,8 @@ DialogMain::DialogMain(std::vector<ObjectTypeInfo> types, QWidget* parent)
     statusBar();
     buildDocks();
     m_profileResult = new DialogProfileResult(this);
+    m_profilePanel->setResultWindow(m_profileResult);
+    m_profilePanel->check();
     applyFirstGeometry();
     setWindowIcon(QIcon(QStringLiteral(":/icons/zul.svg")));
     updateTitle();
@@ -188,7 +191,9 @@ void DialogMain::buildDocks()
     m_tasksPanel->fill(m_project.types());
     connect(m_tasksPanel, &DialogTasks::signalSelectWindow, this, &DialogMain::slotWindowSelect);
 
-    addDock("Profile", new QWidget(this));
+    m_profilePanel = new DialogProfile(m_project.profiles(), this);
+    addDock("Profile", m_profilePanel);
+    m_profilePanel->refresh();
 }
 
 void DialogMain::applyFirstGeometry()

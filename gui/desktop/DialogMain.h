@@ -18,6 +18,7 @@ class QToolBar;
 
 namespace gui {
 
+class DialogProfile;
 class DialogProfileResult;
 class DialogProject;
 class DialogTasks;
@@ -118,6 +119,7 @@ private:
     QToolBar* m_toolBar = nullptr;
     DialogProject* m_projectPanel = nullptr;
     DialogTasks* m_tasksPanel = nullptr;
+    DialogProfile* m_profilePanel = nullptr;
     DialogProfileResult* m_profileResult = nullptr;
 };
 

@@ -20,7 +20,7 @@ DialogProfileResult::DialogProfileResult(QWidget* parent)
     m_text->setAcceptRichText(true);
     m_text->setUndoRedoEnabled(false);
     auto* ok = new QPushButton(QStringLiteral("Ok"), this);
-    connect(ok, &QPushButton::clicked, this, &QDialog::hide);
+    connect(ok, &QPushButton::clicked, this, &DialogProfileResult::slotClose);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_text);
     layout->addWidget(ok, 0, Qt::AlignRight);
@@ -30,6 +30,11 @@ DialogProfileResult::DialogProfileResult(QWidget* parent)
 void DialogProfileResult::setText(const QString& html)
 {
     m_text->setHtml(html);
+}
+
+void DialogProfileResult::slotClose()
+{
+    hide();
 }
 
 } // namespace gui

@@ -17,6 +17,9 @@ public:
     /// Takes the report as HTML.
     void setText(const QString& html);
 
+private slots:
+    void slotClose();
+
 private:
     QTextEdit* m_text;
 };

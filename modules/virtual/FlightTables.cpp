@@ -214,11 +214,11 @@ constexpr std::array<ArincParameter, arincParameterCount> arincParameters = {{
     // Other channels
     {"Master Caution", dataId(eec, centralWarning, 20), 1, 1, T::Bool, {0, 0, 1}, none, 0, 1,
      masterCaution},
-    {"Recorder Time", dataId(udc, recorders, 600), 8, 5, T::ULong64, {0}, secondUnit, 0, 1e6,
+    {"Recorder Time", dataId(udc, recorders, 640), 8, 5, T::ULong64, {0}, secondUnit, 0, 1e6,
      utcSeconds},
-    {"Recorder Drift", dataId(udc, recorders, 601), 8, 2, T::Long64, {0}, secondUnit, -1e6, 1e6,
+    {"Recorder Drift", dataId(udc, recorders, 641), 8, 2, T::Long64, {0}, secondUnit, -1e6, 1e6,
      trackError},
-    {"Recorder Block", dataId(udc, recorders, 602), 8, 2, T::Opaque, {0}, none, 0, 0, zero},
+    {"Recorder Block", dataId(udc, recorders, 642), 8, 2, T::Opaque, {0}, none, 0, 0, zero},
     {"Node Service Request", serviceId(nsc, maintenance, 1, engineIndicating, 0), 4, 1, T::ULong,
      {0}, none, 0, 4'294'967'295.0, utcSeconds},
     {"Node Service Reply", serviceId(nsc, maintenance, 0, engineIndicating, 0), 8, 1, T::Opaque,
@@ -227,7 +227,7 @@ constexpr std::array<ArincParameter, arincParameterCount> arincParameters = {{
      {0}, none, 0, 4'294'967'295.0, utcSeconds},
     {"Directed Message", directedId(maintenance, recorders, 3, 7), 8, 5, T::Opaque, {0}, none, 0,
      0, zero},
-    {"Migrated Base Frame", dataId(fmc, temporaryTest, 315), 8, 2, T::Opaque, {0}, none, 0, 0,
+    {"Migrated Base Frame", dataId(fmc, temporaryTest, 400), 8, 2, T::Opaque, {0}, none, 0, 0,
      zero},
 }};
 

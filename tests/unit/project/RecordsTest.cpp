@@ -436,7 +436,7 @@ TEST(GraphRecord, NewObjectHasOneTraceAndReadingReplacesIt)
     EXPECT_EQ(object.parameters().size(), 1U);
     readText(object, "<O><Graph><Message nme='a'/></Graph></O>");
     ASSERT_EQ(object.parameters().size(), 1U);
-    EXPECT_EQ(object.parameters()[0].name, QStringLiteral("a"));
+    EXPECT_EQ(object.parameters()[0].parameter.nme, QStringLiteral("a"));
     readText(object, "<O><Graph/></O>");
     EXPECT_TRUE(object.parameters().empty());
 }

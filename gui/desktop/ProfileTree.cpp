@@ -1,0 +1,106 @@
+#include "gui/desktop/ProfileTree.h"
+
+#include <QScopedValueRollback>
+
+namespace gui {
+
+namespace {
+
+constexpr int leastHeight = 20; // pixels
+
+QIcon icon(const char* name)
+{
+    return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
+}
+
+// What is no text of a file's own stays within the form that the user sees.
+int shown(std::uint32_t number)
+{
+    return static_cast<int>(number);
+}
+
+QString parameterText(const ProfileParameter& parameter)
+{
+    return parameter.nme + QStringLiteral(" [") + parameter.pun + QLatin1Char(']');
+}
+
+QString parameterToolTip(const ProfileParameter& parameter)
+{
+    const QString text =
+        parameterText(parameter) +
+        QString::asprintf("\nLCC:\t%d\nFID:\t%d\nLCL:\t%d\nPVT:\t%d\nDOC:\t%d\n",
+                          shown(parameter.lcc), shown(parameter.fid), shown(parameter.lcl),
+                          shown(parameter.pvt), shown(parameter.doc));
+    // Names come from files; a tag in them is to be seen, not obeyed.
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpacePre) : text;
+}
+
+} // namespace
+
+ProfileTree::ProfileTree(const Profiles& profiles, QWidget* parent)
+    : QTreeWidget(parent),
+      m_profiles(profiles),
+      m_profileIcon(icon("profile")),
+      m_groupIcon(icon("group")),
+      m_parameterIcon(icon("parameter"))
+{
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setMinimumHeight(leastHeight); // three docks share the height of a small screen
+    connect(this, &QTreeWidget::itemExpanded, this, &ProfileTree::slotExpanded);
+}
+
+void ProfileTree::refill()
+{
+    const QScopedValueRollback<bool> guard(m_filling, true);
+    clear();
+    for (const auto& [name, profile] : m_profiles) {
+        addProfile(profile);
+    }
+}
+
+void ProfileTree::addProfile(const ArincProfile& profile)
+{
+    auto* top = new QTreeWidgetItem({profile.name});
+    top->setIcon(0, m_profileIcon);
+    for (const auto& [key, group] : profile.fids) {
+        auto* item =
+            new QTreeWidgetItem(top, {QString::number(shown(key)) + QLatin1Char(' ') + group.name});
+        item->setIcon(0, m_groupIcon);
+        if (!group.parameters.empty()) {
+            item->setData(0, groupKeyRole, key);
+            item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+        }
+    }
+    addTopLevelItem(top);
+}
+
+void ProfileTree::slotExpanded(QTreeWidgetItem* item)
+{
+    const QVariant key = item->data(0, groupKeyRole);
+    if (m_filling || !key.isValid() || item->parent() == nullptr) {
+        return;
+    }
+    item->setData(0, groupKeyRole, QVariant());
+    item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
+    const auto profile = m_profiles.find(item->parent()->text(0));
+    if (profile == m_profiles.end()) {
+        return;
+    }
+    const auto group = profile->second.fids.find(key.toUInt());
+    if (group == profile->second.fids.end()) {
+        return;
+    }
+    for (const auto& [serial, parameter] : group->second.parameters) {
+        addParameter(*item, parameter);
+    }
+}
+
+void ProfileTree::addParameter(QTreeWidgetItem& group, const ProfileParameter& parameter)
+{
+    auto* item = new QTreeWidgetItem(&group, {parameterText(parameter)});
+    item->setIcon(0, m_parameterIcon);
+    item->setToolTip(0, parameterToolTip(parameter));
+}
+
+} // namespace gui

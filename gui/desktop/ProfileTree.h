@@ -1,0 +1,43 @@
+#pragma once
+
+#include "profile/ArincProfile.h"
+
+#include <QIcon>
+#include <QTreeWidget>
+
+#include <map>
+
+namespace gui {
+
+/// Profiles, their groups, and the parameters in them. The parameters of a group get their items
+/// when the group is unfolded for the first time: a profile may have a million of them.
+class ProfileTree : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    using Profiles = std::map<QString, ArincProfile>; ///< by name
+
+    /// Shows the profiles of a store, which belong to the caller and outlive the tree.
+    ProfileTree(const Profiles& profiles, QWidget* parent);
+
+    /// Shows what the profiles are now; nothing is unfolded.
+    void refill();
+
+private slots:
+    void slotExpanded(QTreeWidgetItem* item);
+
+private:
+    static constexpr int groupKeyRole = Qt::UserRole; ///< of a group whose items are to come
+
+    void addProfile(const ArincProfile& profile);
+    void addParameter(QTreeWidgetItem& group, const ProfileParameter& parameter);
+
+    const Profiles& m_profiles;
+    bool m_filling = false;
+    QIcon m_profileIcon;
+    QIcon m_groupIcon;
+    QIcon m_parameterIcon;
+};
+
+} // namespace gui
