@@ -18,11 +18,16 @@ QString numberText(int value, int numberType)
     }
 }
 
-int numberFromText(const QString& text)
+qlonglong wideNumberFromText(const QString& text)
 {
     constexpr int detectBase = 0;
+    return text.trimmed().toLongLong(nullptr, detectBase);
+}
+
+int numberFromText(const QString& text)
+{
     const QString number = text.trimmed();
-    const qlonglong value = number.toLongLong(nullptr, detectBase);
+    const qlonglong value = wideNumberFromText(number);
     constexpr qlonglong allBits = std::numeric_limits<std::uint32_t>::max();
     if (value <= allBits && number.startsWith(QLatin1String("0x"), Qt::CaseInsensitive)) {
         return static_cast<int>(static_cast<std::uint32_t>(value));

@@ -11,7 +11,7 @@ QwtHexValidator::QwtHexValidator(int minimum, int maximum, QObject* parent)
 
 QValidator::State QwtHexValidator::validate(QString& text, int&) const
 {
-    const int value = numberFromText(text);
+    const qlonglong value = wideNumberFromText(text);
     return value >= bottom() && value <= top() ? Acceptable : Invalid;
 }
 

@@ -364,9 +364,10 @@ void WidgetProperty::spinRegister()
     const std::uint32_t value =
         gui::composeRegister(*gui::registerLayout(m_property.kind), m_fieldValues);
     change(registerText(value));
-    // Not `value`: the device may have made something else of it.
-    m_register->setText(zul::fromLatin1(m_value));
-    selectChoice(zul::numberWithPrefix(zul::fromLatin1(m_value)));
+    // Not `value`: the device may have made something else of it, and may tell it in another form.
+    const std::uint32_t stored = zul::numberWithPrefix(zul::fromLatin1(m_value));
+    m_register->setText(zul::fromLatin1(registerText(stored)));
+    selectChoice(stored);
 }
 
 void WidgetProperty::changeNumber(int value)

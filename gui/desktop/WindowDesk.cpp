@@ -4,6 +4,7 @@
 #include "gui/frame/DialogBase.h"
 #include "project/Project.h"
 
+#include <QEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -51,6 +52,7 @@ DialogBase* WindowDesk::open(Object& object)
     connect(dialog, &DialogBase::signalDeleteDialog, this, &WindowDesk::signalDeleteDialog);
     connect(dialog, &DialogBase::signalDeleteObject, this, &WindowDesk::signalDeleteObject);
     QMdiSubWindow* subWindow = m_area.addSubWindow(dialog);
+    subWindow->installEventFilter(this);
     releaseKey(*subWindow, m_closeKey);
     subWindow->setWindowIcon(dialog->windowIcon());
     subWindow->show();
@@ -59,12 +61,13 @@ DialogBase* WindowDesk::open(Object& object)
 
 DialogBase* WindowDesk::openInPlace(Object& object)
 {
+    // Taken before the window moves to its first place, which the object would take over.
+    const QRect geometry =
+        boundedGeometry(object.xPos(), object.yPos(), object.width(), object.height());
     DialogBase* dialog = open(object);
     if (dialog != nullptr) {
         QMdiSubWindow* subWindow = find(object.id());
         subWindow->showNormal();
-        const QRect geometry =
-            boundedGeometry(object.xPos(), object.yPos(), object.width(), object.height());
         subWindow->resize(geometry.size());
         subWindow->move(geometry.topLeft());
         dialog->setName(object.name());
@@ -117,14 +120,30 @@ void WindowDesk::deleteAll()
 void WindowDesk::storeGeometry()
 {
     for (const QMdiSubWindow* subWindow : m_area.subWindowList()) {
-        // A maximized or minimized window keeps the geometry that it goes back to.
-        const DialogBase* dialog = dialogOf(*subWindow);
-        if (dialog != nullptr && dialog->object() != nullptr && !subWindow->isMaximized() &&
-            !subWindow->isMinimized()) {
-            dialog->object()->setPosition(subWindow->x(), subWindow->y());
-            dialog->object()->setSize(subWindow->width(), subWindow->height());
+        storeGeometryOf(*subWindow);
+    }
+}
+
+void WindowDesk::storeGeometryOf(const QMdiSubWindow& subWindow)
+{
+    // A maximized or minimized window keeps the geometry that it goes back to.
+    const DialogBase* dialog = dialogOf(subWindow);
+    if (dialog != nullptr && dialog->object() != nullptr && !subWindow.isMaximized() &&
+        !subWindow.isMinimized()) {
+        dialog->object()->setPosition(subWindow.x(), subWindow.y());
+        dialog->object()->setSize(subWindow.width(), subWindow.height());
+    }
+}
+
+bool WindowDesk::eventFilter(QObject* watched, QEvent* event)
+{
+    // Once a window is maximized, nobody can tell any more what it goes back to.
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize) {
+        if (const auto* subWindow = qobject_cast<QMdiSubWindow*>(watched)) {
+            storeGeometryOf(*subWindow);
         }
     }
+    return QObject::eventFilter(watched, event);
 }
 
 void WindowDesk::broadcast(Message& message)

@@ -49,7 +49,12 @@ signals:
     void signalDeleteDialog(int objectId);
     void signalDeleteObject(int objectId);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    static void storeGeometryOf(const QMdiSubWindow& subWindow);
+
     QMdiArea& m_area;
     Project& m_project;
     QKeySequence m_closeKey;

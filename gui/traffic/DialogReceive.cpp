@@ -198,6 +198,7 @@ void DialogReceive::slotDisplayMode(int mode)
     }
     m_receive->settings().displayMode = mode;
     markEdited();
+    m_tree->buildColumns();
     m_columnSet = canColumnSet;
     // Deliberate: the first switch empties the rows in any case, since no column set was last.
     if (m_columnSet != m_lastColumnSet) {

@@ -18,6 +18,8 @@ class ReceiveTree : public QTreeWidget
 public:
     explicit ReceiveTree(QWidget* parent = nullptr);
 
+    /// Sets headers and column widths, whatever the user made of them.
+    void buildColumns();
     /// Makes items for the rows that `table` has more than the tree. `table` outlives the items.
     void addMissingRows(const ReceiveTable& table, int numberType);
     /// Paints the dirty rows and clears their marks; a cell is written only if its text differs.
@@ -40,7 +42,6 @@ private:
         bool hasBackground = false;
     };
 
-    void buildColumns();
     void addRow(const ReceiveTable& table, int index, int numberType);
     void paintRow(ReceiveRow& record, Row& row, int numberType);
     void paintActivity(ReceiveRow& record, Row& row) const;

@@ -177,10 +177,28 @@ TEST(QwtHexValidator, AcceptsWhatLiesInTheRange)
     for (const char* bad : {"256", "0x100", "-1"}) {
         EXPECT_EQ(state(bad), QValidator::Invalid) << bad;
     }
+    for (const char* octal : {"010", "0377"}) {
+        EXPECT_EQ(state(octal), QValidator::Acceptable) << octal;
+    }
+    EXPECT_EQ(state("0400"), QValidator::Invalid);
     const QwtHexValidator fromOne(1, 5);
     QString empty;
     int position = 0;
     EXPECT_EQ(fromOne.validate(empty, position), QValidator::Invalid);
+}
+
+TEST(QwtHexValidator, NumbersBeyondAnIntAreOutOfEveryRange)
+{
+    const QwtHexValidator aroundZero(-5, 5);
+    const QwtHexValidator allInts(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    int position = 0;
+    for (const char* text : {"0xFFFFFFFF", "99999999999", "-99999999999"}) {
+        QString input = QLatin1String(text);
+        EXPECT_EQ(aroundZero.validate(input, position), QValidator::Invalid) << text;
+        EXPECT_EQ(allInts.validate(input, position), QValidator::Invalid) << text;
+    }
+    QString negative = QStringLiteral("-5");
+    EXPECT_EQ(aroundZero.validate(negative, position), QValidator::Acceptable);
 }
 
 TEST(QwtBarItem, SmoothsTheRateAndFloorsTheMaximum)

@@ -149,10 +149,27 @@ TEST_F(DeskWindows, MaximizedWindowKeepsTheGeometryThatItGoesBackTo)
 {
     Object* receive = add(ObjectType::Receive);
     place(*receive, {33, 44, 278, 199});
-    trigger(3);
     subWindow(*receive)->showMaximized();
     trigger(3);
     EXPECT_EQ(geometryOf(*receive), QRect(33, 44, 278, 199));
+}
+
+TEST_F(DeskWindows, MinimizedWindowKeepsTheGeometryThatItGoesBackTo)
+{
+    Object* receive = add(ObjectType::Receive);
+    place(*receive, {33, 44, 278, 199});
+    subWindow(*receive)->showMinimized();
+    subWindow(*receive)->close();
+    EXPECT_EQ(geometryOf(*receive), QRect(33, 44, 278, 199));
+}
+
+TEST_F(DeskWindows, NewWindowThatIsMaximizedAtOnceKeepsItsFirstPlace)
+{
+    Object* receive = add(ObjectType::Receive);
+    const QRect first = frameOf(*subWindow(*receive));
+    subWindow(*receive)->showMaximized();
+    trigger(3);
+    EXPECT_EQ(geometryOf(*receive), first);
 }
 
 TEST_F(DeskWindows, SelectingAnObjectWithAWindowGivesThatTheFocus)

@@ -368,4 +368,14 @@ TEST_F(WidgetPropertyTest, SpinBoxShowsWhatTheDeviceMadeOfIt)
     EXPECT_EQ(spun(), (std::vector<int>{16, 0}));
 }
 
+TEST_F(WidgetPropertyTest, SpinBoxShowsTheRegisterInItsFormWhateverTheDeviceSays)
+{
+    make(PropertyKind::Tdcr, {{"On", 0x1000}});
+    QObject::connect(m_editor.get(), &WidgetProperty::signalChanged, m_editor.get(),
+                     [this] { m_editor->setValue("4096"); });
+    spin("TDCF")->setValue(5);
+    EXPECT_EQ(edit("TDCR")->text(), QStringLiteral("0x00001000"));
+    EXPECT_EQ(choices()->currentText(), QStringLiteral("On"));
+}
+
 } // namespace
