@@ -161,12 +161,13 @@ void ProfileChecks::checkSid(int line, const ProfileParameter& parameter, std::u
 
 void ProfileChecks::setDataType(int line, const QString& name, ProfileParameter& parameter)
 {
-    parameter.typeName = name;
     const auto type = m_store.dataTypeNames().find(name);
     if (type != m_store.dataTypeNames().end()) {
+        parameter.typeName = type->first; // one text for all parameters
         parameter.dtc = type->second;
         return;
     }
+    parameter.typeName = name;
     parameter.dtc = static_cast<std::uint32_t>(ArincType::Enum);
     const auto enumeration = m_profile.enums.find(name);
     if (enumeration != m_profile.enums.end()) {
