@@ -48,7 +48,7 @@ inline double withSign(std::uint64_t value, unsigned count)
     return -(static_cast<double>(highest - 1 - (value - highest) + 1));
 }
 
-/// From its sign, exponent and fraction; a not-a-number has no bits to tell apart.
+/// From its sign, exponent and fraction; a not-a-number keeps its sign alone.
 inline double ieee(std::uint64_t bits, int exponentBits, int fractionBits)
 {
     const double sign = (bits >> (exponentBits + fractionBits)) % 2 != 0 ? -1.0 : 1.0;
@@ -57,7 +57,7 @@ inline double ieee(std::uint64_t bits, int exponentBits, int fractionBits)
     const std::uint64_t fraction = bits % (std::uint64_t{1} << fractionBits);
     const int bias = maxExponent / 2;
     if (exponent == maxExponent) {
-        return fraction == 0 ? sign * HUGE_VAL : std::nan("");
+        return fraction == 0 ? sign * HUGE_VAL : std::copysign(std::nan(""), sign);
     }
     const double hidden = exponent == 0 ? 0.0 : std::ldexp(1.0, fractionBits);
     return sign * std::ldexp(hidden + static_cast<double>(fraction),
