@@ -1,44 +1,44 @@
 #include "profile/ValueText.h"
 
-#include "core/Latin1.h"
+#include "core/TextWriter.h"
+#include "profile/ByteOrder.h"
 #include "profile/DataTypes.h"
 #include "profile/ProfileStore.h"
 #include "profile/ValueCodec.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 
 namespace zul {
 
 namespace {
 
-/// The text of a parameter of type ENUM; empty if it has no bits.
-std::string enumText(const MessageCan& message, const ProfileStore& store,
-                     const ProfileParameter& parameter)
+void appendEnum(TextWriter& text, const MessageCan& message, const ProfileStore& store,
+                const ProfileParameter& parameter)
 {
-    const std::optional<std::uint64_t> value = enumValue(message, parameter);
-    if (!value) {
-        return {};
+    if (const std::optional<std::uint64_t> value = enumValue(message, parameter)) {
+        const auto entry = numberOfBits<std::int32_t>(static_cast<std::uint32_t>(*value));
+        // In the memory of the QString, which zul::toLatin1 would copy.
+        text.append(store.enumText(parameter.enumId, entry).toLatin1().constData());
     }
-    const auto entry = static_cast<std::int32_t>(static_cast<std::uint32_t>(*value));
-    return toLatin1(store.enumText(parameter.enumId, entry));
 }
 
-void writeBytes(char* buffer, std::size_t capacity, const MessageCan& message)
+void appendBytes(TextWriter& text, const MessageCan& message)
 {
-    const std::uint8_t* bytes = &message.msg()[0];
-    std::snprintf(buffer, capacity, "%d %d %d %d %d %d %d %d", bytes[0], bytes[1], bytes[2],
-                  bytes[3], bytes[4], bytes[5], bytes[6], bytes[7]);
+    constexpr std::int32_t count = 8;
+    for (std::int32_t i = 0; i < count; ++i) {
+        if (i > 0) {
+            text.append(' ');
+        }
+        text.appendDecimal(message.msg()[i]);
+    }
 }
 
-void writeDigit(char* buffer, std::size_t capacity, int digit)
+void appendDigit(TextWriter& text, int digit)
 {
     constexpr int digits = 10;
-    if (digit < digits) {
-        std::snprintf(buffer, capacity, "%d", digit);
-    } else {
-        std::snprintf(buffer, capacity, "-");
-    }
+    text.append(digit < digits ? static_cast<char>('0' + digit) : '-');
 }
 
 } // namespace
@@ -46,16 +46,20 @@ void writeDigit(char* buffer, std::size_t capacity, int digit)
 int textOf(char* buffer, std::size_t capacity, const MessageCan& message, const ProfileStore& store,
            const ProfileParameter& parameter)
 {
+    if (capacity == 0) {
+        return 0;
+    }
     const std::size_t room = std::min(capacity, valueTextCapacity);
+    TextWriter text(buffer, room);
     switch (static_cast<ArincType>(parameter.dtc)) {
     case ArincType::NoData:
-        std::snprintf(buffer, room, "NO DATA");
+        text.append("NO DATA");
         break;
     case ArincType::Enum:
-        std::snprintf(buffer, room, "%s", enumText(message, store, parameter).c_str());
+        appendEnum(text, message, store, parameter);
         break;
     case ArincType::AChar:
-        std::snprintf(buffer, room, "%c", static_cast<int>(arincValue(message, parameter)));
+        text.append(static_cast<char>(static_cast<std::uint8_t>(arincValue(message, parameter))));
         break;
     case ArincType::Char:
     case ArincType::UChar:
@@ -70,16 +74,16 @@ int textOf(char* buffer, std::size_t capacity, const MessageCan& message, const 
         std::snprintf(buffer, room, "%f", arincValue(message, parameter));
         break;
     case ArincType::Opaque:
-        writeBytes(buffer, room, message);
+        appendBytes(text, message);
         break;
     case ArincType::Bool:
-        std::snprintf(buffer, room, "%s", arincValue(message, parameter) != 0.0 ? "true" : "false");
+        text.append(arincValue(message, parameter) != 0.0 ? "true" : "false");
         break;
     case ArincType::Bcd:
-        writeDigit(buffer, room, static_cast<int>(arincValue(message, parameter)));
+        appendDigit(text, static_cast<int>(arincValue(message, parameter)));
         break;
     default:
-        std::snprintf(buffer, room, "---");
+        text.append("---");
     }
     return 0;
 }
