@@ -102,18 +102,19 @@ constexpr std::uint32_t parameterKey(std::uint32_t id)
     return id & ~(data::fsb.mask() | rci.mask());
 }
 
-/// Longest text that the functions below write, with the closing 0.
+/// A buffer of this size holds every text that the functions below write, with the closing 0. In a
+/// smaller one the text is cut, and still closed; in none nothing is written.
 inline constexpr std::size_t fieldTextCapacity = 80;
 
 /// Writes the fields of the identifier by its channel's layout, such as
-/// "SFID 4 FSB 0 LCL 0 PVT 0 DOC 100", in decimal or hexadecimal. False, and nothing written, for
-/// the channel that has no layout.
-bool fieldText(char* buffer, std::size_t capacity, std::uint32_t id, bool hexadecimal);
+/// "SFID 4 FSB 0 LCL 0 PVT 0 DOC 100"; hexadecimal ("SFID 0x4 ...") if `numberType` is 1. False,
+/// and nothing written, for the channel that has no layout.
+bool fieldText(char* buffer, std::size_t capacity, std::uint32_t id, int numberType);
 
 /// Writes LCC, FID, DOC, LCL and PVT with slashes between them.
 ///
 /// Deliberate: the number type works the other way round here: `numberType` 1, elsewhere
-/// hexadecimal, gives decimal numbers, and any other value hexadecimal ones.
+/// hexadecimal, gives decimal numbers, and any other value hexadecimal ones ("$2/$4/...").
 void parameterKeyText(char* buffer, std::size_t capacity, std::uint32_t id, int numberType);
 
 /// Column header of `fieldText`.

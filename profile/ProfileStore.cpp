@@ -11,6 +11,7 @@
 #include "profile/XmlSource.h"
 #include "profile/ZorbProfileReader.h"
 
+#include <QStringBuilder>
 #include <QStringList>
 
 #include <optional>
@@ -97,9 +98,9 @@ QString ProfileStore::enumText(std::int32_t enumId, std::int32_t value) const
     const auto& values = enumeration->second.values;
     const auto found = values.find(value);
     if (found == values.end()) {
-        return QString::number(value) + QStringLiteral(": Invalid ENUM Value");
+        return QString::number(value) % QLatin1String(": Invalid ENUM Value");
     }
-    return QString::number(value) + QStringLiteral(": ") + found->second.label;
+    return QString::number(value) % QLatin1String(": ") % found->second.label;
 }
 
 void ProfileStore::loadAll()
@@ -216,11 +217,16 @@ bool ProfileStore::writeProfile(const QString& path, const ArincProfile& profile
     return zul::writeTextProfile(path, *this, profile);
 }
 
+void ProfileStore::addEnumeration(const ProfileEnum& enumeration)
+{
+    m_enumerations[enumeration.enumId] = enumeration;
+}
+
 void ProfileStore::collectEnumerations()
 {
     for (const auto& [profileName, profile] : m_profiles) {
         for (const auto& [name, enumeration] : profile.enums) {
-            m_enumerations[enumeration.enumId] = enumeration;
+            addEnumeration(enumeration);
         }
     }
 }

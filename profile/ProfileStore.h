@@ -76,6 +76,10 @@ public:
     /// Such as "2: Running"; "Unknown ENUM Type" for an unknown id, "7: Invalid ENUM Value" for an
     /// unknown value.
     QString enumText(std::int32_t enumId, std::int32_t value) const;
+    /// The enumerations of all profiles, by id.
+    const std::map<std::int32_t, ProfileEnum>& enumerations() const { return m_enumerations; }
+    /// Adds an enumeration under its id; the next load forgets it.
+    void addEnumeration(const ProfileEnum& enumeration);
     /// A fresh id for an enumeration.
     std::int32_t nextEnumId() { return m_nextEnumId++; }
 

@@ -1,6 +1,6 @@
 #include "traffic/FormatBytes.h"
 
-#include "traffic/TextWriter.h"
+#include "core/TextWriter.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "traffic/ReceiveRowText.h"
 
+#include "core/TextWriter.h"
 #include "traffic/MessageModes.h"
-#include "traffic/TextWriter.h"
 
 #include <algorithm>
 

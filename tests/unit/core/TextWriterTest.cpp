@@ -1,4 +1,4 @@
-#include "traffic/TextWriter.h"
+#include "core/TextWriter.h"
 
 #include <array>
 #include <cstdio>

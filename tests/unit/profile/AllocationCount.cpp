@@ -1,0 +1,39 @@
+#include "tests/unit/profile/AllocationCount.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+thread_local std::uint64_t count = 0;
+
+} // namespace
+
+namespace zul::test {
+
+std::uint64_t allocationCount()
+{
+    return count;
+}
+
+} // namespace zul::test
+
+void* operator new(std::size_t size)
+{
+    ++count;
+    void* memory = std::malloc(size > 0 ? size : 1);
+    if (memory == nullptr) {
+        throw std::bad_alloc();
+    }
+    return memory;
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
