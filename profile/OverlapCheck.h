@@ -9,13 +9,6 @@
 
 namespace zul {
 
-/// Linear position of a bit in the first eight data bytes of a frame: 0 is bit 0 of byte 7, 63 is
-/// bit 7 of byte 0. Bytes and bits out of range give a position outside 0 to 63.
-constexpr std::int64_t linearPosition(std::uint32_t byte, std::uint32_t bit)
-{
-    return std::int64_t{bit} + (7 - std::int64_t{byte}) * 8;
-}
-
 /// Finds parameters of one profile that share bits of a frame.
 class OverlapCheck
 {

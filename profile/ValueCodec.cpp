@@ -1,5 +1,6 @@
 #include "profile/ValueCodec.h"
 
+#include "profile/BitPosition.h"
 #include "profile/ByteOrder.h"
 #include "profile/CanAerospaceId.h"
 #include "profile/DataTypes.h"
@@ -66,13 +67,6 @@ std::uint32_t fromStartBit(std::uint64_t word, const ProfileParameter& parameter
 {
     const std::uint32_t byte = numberAt<std::uint8_t>(word, parameter.sppByte);
     return parameter.sppBit < bitsPerByte ? byte >> parameter.sppBit : 0;
-}
-
-/// Number of a bit in the word; outside of 0 to 63 for a position that is in none of its bytes.
-std::int64_t linearPosition(std::uint32_t byte, std::uint32_t bit)
-{
-    constexpr std::int64_t lastByte = wordBytes - 1;
-    return bit + (lastByte - byte) * bitsPerByte;
 }
 
 struct EnumField

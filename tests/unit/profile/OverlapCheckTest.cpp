@@ -1,5 +1,7 @@
 #include "profile/OverlapCheck.h"
 
+#include "profile/BitPosition.h"
+
 #include <gtest/gtest.h>
 
 namespace {
