@@ -1,12 +1,13 @@
 #include "profile/Arinc825Id.h"
 
+#include "core/NumberType.h"
 #include "core/TextWriter.h"
+
+#include <cstdio>
 
 namespace zul::arinc825 {
 
 namespace {
-
-constexpr int hexadecimal = 1; // as a number type
 
 struct NamedField
 {
@@ -58,7 +59,7 @@ bool writeFields(char* buffer, std::size_t capacity, std::uint32_t id, int numbe
     TextWriter text(buffer, capacity);
     for (const NamedField& named : fields) {
         text.append(named.name);
-        appendNumber(text, named.field.get(id), numberType == hexadecimal ? "0x" : nullptr);
+        appendNumber(text, named.field.get(id), isHexadecimal(numberType) ? "0x" : nullptr);
     }
     return true;
 }
@@ -95,8 +96,13 @@ void parameterKeyText(char* buffer, std::size_t capacity, std::uint32_t id, int 
     TextWriter text(buffer, capacity);
     for (const NamedField& named : fields) {
         text.append(named.name);
-        appendNumber(text, named.field.get(id), numberType == hexadecimal ? nullptr : "$");
+        appendNumber(text, named.field.get(id), isHexadecimal(numberType) ? nullptr : "$");
     }
+}
+
+void parameterKeyIdText(char* buffer, std::size_t capacity, std::uint32_t id)
+{
+    std::snprintf(buffer, capacity, "0x%x", parameterKey(id));
 }
 
 } // namespace zul::arinc825

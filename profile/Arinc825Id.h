@@ -21,7 +21,8 @@ struct IdField
     constexpr std::uint32_t max() const { return (std::uint32_t{1} << width) - 1; }
     constexpr std::uint32_t mask() const { return max() << shift; }
     constexpr std::uint32_t get(std::uint32_t id) const { return (id >> shift) & max(); }
-    /// `id` with the field set to the low bits of `value`; all other bits stay.
+    /// `id` with the field set to the low bits of `value`, of a one-bit field 0 or 1; all other
+    /// bits stay.
     [[nodiscard]] constexpr std::uint32_t set(std::uint32_t id, std::uint32_t value) const
     {
         return (id & ~mask()) | ((value & max()) << shift);
@@ -96,11 +97,15 @@ constexpr char rciLetter(std::uint32_t id)
     return "ABCD"[rci.get(id)];
 }
 
-/// What a received frame and the parameters of a profile have in common: FSB and RCI are cleared.
+/// The key under which the parameters of a received frame are found: FSB and RCI are cleared.
 constexpr std::uint32_t parameterKey(std::uint32_t id)
 {
     return id & ~(data::fsb.mask() | rci.mask());
 }
+
+/// Largest number that an entry of the DOC takes. Deliberate: one more than the field holds, so
+/// that it gives DOC 0.
+inline constexpr std::uint32_t maxDocEntry = 16384;
 
 /// A buffer of this size holds every text that the functions below write, with the closing 0. In a
 /// smaller one the text is cut, and still closed; in none nothing is written.
@@ -116,6 +121,9 @@ bool fieldText(char* buffer, std::size_t capacity, std::uint32_t id, int numberT
 /// Deliberate: the number type works the other way round here: `numberType` 1, elsewhere
 /// hexadecimal, gives decimal numbers, and any other value hexadecimal ones ("$2/$4/...").
 void parameterKeyText(char* buffer, std::size_t capacity, std::uint32_t id, int numberType);
+
+/// Writes the parameter key of an identifier as "0x%x".
+void parameterKeyIdText(char* buffer, std::size_t capacity, std::uint32_t id);
 
 /// Column header of `fieldText`.
 inline constexpr const char* fieldHeader = "FID/FSB/LCL/PVT/DOC/Address/Port";

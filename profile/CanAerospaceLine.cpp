@@ -1,5 +1,6 @@
 #include "profile/CanAerospaceLine.h"
 
+#include "core/NumberType.h"
 #include "core/TextWriter.h"
 #include "profile/ByteOrder.h"
 #include "profile/CanAerospaceId.h"
@@ -12,52 +13,6 @@
 namespace zul {
 
 namespace {
-
-constexpr int hexadecimal = 1; // as a number type
-
-/// What the payload's formats take.
-enum class Payload : std::uint8_t {
-    Word,           ///< one number of 32 bits
-    Float,          ///< one single
-    SignedShorts,   ///< two numbers of 16 bits
-    UnsignedShorts, ///< two numbers of 16 bits
-    SignedBytes,    ///< four bytes
-    UnsignedBytes   ///< four bytes
-};
-
-/// By the code of the data type. A type of fewer numbers prints the first ones.
-constexpr std::array<Payload, canAerospaceTypes.size()> payloads{{
-    Payload::UnsignedBytes,  // NODATA
-    Payload::Word,           // ERROR
-    Payload::Float,          // FLOAT
-    Payload::Word,           // LONG
-    Payload::Word,           // ULONG
-    Payload::Word,           // BLONG
-    Payload::SignedShorts,   // SHORT
-    Payload::UnsignedShorts, // USHORT
-    Payload::UnsignedShorts, // BSHORT
-    Payload::SignedBytes,    // CHAR
-    Payload::UnsignedBytes,  // UCHAR
-    Payload::UnsignedBytes,  // BCHAR
-    Payload::SignedShorts,   // SHORT_2
-    Payload::UnsignedShorts, // USHORT_2
-    Payload::UnsignedShorts, // BSHORT_2
-    Payload::SignedBytes,    // CHAR_4
-    Payload::UnsignedBytes,  // UCHAR_4
-    Payload::UnsignedBytes,  // BCHAR_4
-    Payload::SignedBytes,    // CHAR_2
-    Payload::UnsignedBytes,  // UCHAR_2
-    Payload::UnsignedBytes,  // BCHAR_2
-    Payload::Word,           // MEMID
-    Payload::Word,           // CHKSUM
-    Payload::UnsignedBytes,  // ACHAR
-    Payload::UnsignedBytes,  // ACHAR_2
-    Payload::UnsignedBytes,  // ACHAR_4
-    Payload::SignedBytes,    // CHAR_3
-    Payload::UnsignedBytes,  // UCHAR_3
-    Payload::UnsignedBytes,  // BCHAR_3
-    Payload::UnsignedBytes,  // ACHAR_3
-}};
 
 // The longest payload is the lowest single, -340282346638528859811704183484516925440.000000.
 using PayloadText = std::array<char, 64>;
@@ -85,32 +40,32 @@ std::uint16_t halfAt(const std::uint8_t* payload, std::size_t offset)
 }
 
 /// `bytes` are those of the payload.
-void printPayload(PayloadText& text, const char* format, Payload payload, const std::uint8_t* bytes,
-                  int numberType)
+void printPayload(PayloadText& text, const char* format, CanAerospacePayload payload,
+                  const std::uint8_t* bytes, int numberType)
 {
     switch (payload) {
-    case Payload::Word:
-        if (numberType == hexadecimal) {
+    case CanAerospacePayload::Word:
+        if (isHexadecimal(numberType)) {
             print(text, format, wordOf(bytes));
         } else {
             print(text, format, numberOfBits<std::int32_t>(wordOf(bytes)));
         }
         break;
-    case Payload::Float:
+    case CanAerospacePayload::Float:
         print(text, format, static_cast<double>(numberOfBits<float>(wordOf(bytes))));
         break;
-    case Payload::SignedShorts:
+    case CanAerospacePayload::SignedShorts:
         print(text, format, numberOfBits<std::int16_t>(halfAt(bytes, 0)),
               numberOfBits<std::int16_t>(halfAt(bytes, 2)));
         break;
-    case Payload::UnsignedShorts:
+    case CanAerospacePayload::UnsignedShorts:
         print(text, format, halfAt(bytes, 0), halfAt(bytes, 2));
         break;
-    case Payload::SignedBytes:
+    case CanAerospacePayload::SignedBytes:
         print(text, format, static_cast<std::int8_t>(bytes[0]), static_cast<std::int8_t>(bytes[1]),
               static_cast<std::int8_t>(bytes[2]), static_cast<std::int8_t>(bytes[3]));
         break;
-    case Payload::UnsignedBytes:
+    case CanAerospacePayload::UnsignedBytes:
         print(text, format, bytes[0], bytes[1], bytes[2], bytes[3]);
         break;
     }
@@ -154,10 +109,10 @@ void appendTypeLabel(TextWriter& line, const char* label)
 void appendHeader(TextWriter& line, std::uint32_t id, const std::uint8_t* bytes, const char* type,
                   int numberType)
 {
-    const bool isHexadecimal = numberType == hexadecimal;
+    const bool inHexadecimal = isHexadecimal(numberType);
     const std::uint32_t service = bytes[canaerospace::serviceCodeByte];
     const char* serviceName = canaerospace::serviceName(id, service);
-    const auto appendFilled = isHexadecimal ? &appendHexadecimalByte : &appendByte;
+    const auto appendFilled = inHexadecimal ? &appendHexadecimalByte : &appendByte;
 
     line.append(canaerospace::messageClass(id).label);
     line.append(' ');
@@ -167,7 +122,7 @@ void appendHeader(TextWriter& line, std::uint32_t id, const std::uint8_t* bytes,
     line.append(' ');
     if (serviceName != nullptr) {
         line.append(serviceName);
-    } else if (isHexadecimal) {
+    } else if (inHexadecimal) {
         appendHexadecimalByte(line, service, '0');
     } else {
         line.appendDecimal(service);
@@ -188,9 +143,8 @@ int canAerospaceLine(char* buffer, std::size_t capacity, const MessageCan& messa
     const bool isKnown = code < canAerospaceTypes.size();
     const CanAerospaceTypeInfo& type = isKnown ? canAerospaceTypes[code] : unknownCanAerospaceType;
     PayloadText payload;
-    printPayload(payload, numberType == hexadecimal ? type.hexadecimalFormat : type.decimalFormat,
-                 isKnown ? payloads[code] : Payload::UnsignedBytes,
-                 bytes + canaerospace::payloadByte, numberType);
+    printPayload(payload, isHexadecimal(numberType) ? type.hexadecimalFormat : type.decimalFormat,
+                 type.payload, bytes + canaerospace::payloadByte, numberType);
     TextWriter line(buffer, capacity);
     appendHeader(line, message.id(), bytes, type.label, numberType);
     line.append(" | ");

@@ -6,12 +6,13 @@
 
 namespace zul {
 
-/// The identifier of a parameter of a text profile, with FSB and RCI 0. On EEC and NOC it is made
+/// The identifier of a parameter of a text profile. On EEC and NOC it is made
 /// of LCC, FID, LCL, PVT and DOC; on all other channels the server's function code comes from the
 /// NID in `doc`.
 ///
 /// Deliberate: on those channels the SID goes into the bits 8 to 0, beside its place in the service
-/// layout. Fields beyond their ranges spill into their neighbours, as they stand.
+/// layout, RCI's bits included: a SID that is no multiple of 4 gives an identifier that no received
+/// frame matches. Fields beyond their ranges spill into their neighbours, as they stand.
 std::uint32_t textProfileId(const ProfileParameter& parameter);
 
 /// The identifier of a parameter of an XML profile: as before on EEC and NOC; on all other channels

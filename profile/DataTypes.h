@@ -61,55 +61,71 @@ inline constexpr std::array<ArincTypeInfo, 16> arincTypes{{
     {ArincType::Bcd, "BCD", PositionRule::Free},
 }};
 
+/// What the formats of a CANaerospace payload take. A type of fewer numbers prints the first ones.
+enum class CanAerospacePayload : std::uint8_t {
+    Word,           ///< one number of 32 bits
+    Float,          ///< one single
+    SignedShorts,   ///< two numbers of 16 bits
+    UnsignedShorts, ///< two numbers of 16 bits
+    SignedBytes,    ///< four bytes
+    UnsignedBytes   ///< four bytes
+};
+
 /// A data type of CANaerospace, by its code in data byte 1 of the frame (the row's index).
 struct CanAerospaceTypeInfo
 {
     const char* name;              ///< in profiles
     const char* selectionName;     ///< in selection boxes
     const char* label;             ///< in decoded frames
-    const char* decimalFormat;     ///< of the payload; the values it takes are the codec's
+    const char* decimalFormat;     ///< of the payload
     const char* hexadecimalFormat; ///< of the payload
+    CanAerospacePayload payload;   ///< what both formats take
     int byteCount;                 ///< of the whole frame, header included
 };
 
 // clang-format off
 inline constexpr std::array<CanAerospaceTypeInfo, 30> canAerospaceTypes{{
-    {"AS_NODATA", "NODATA", "NODATA", "", "", 4},
-    {"AS_ERROR", "ERROR", "ERROR", "%d", "$%08x", 4},
-    {"AS_FLOAT", "FLOAT", "FLOAT", "%f", "%f", 8},
-    {"AS_LONG", "LONG", "LONG", "%d", "0x%08x", 8},
-    {"AS_ULONG", "ULONG", "ULONG", "%d", "0x%08x", 8},
-    {"AS_BLONG", "BLONG", "BLONG", "%d", "0x%08x", 8},
-    {"AS_SHORT", "SHORT", "SHORT", "%d", "0x%04hx", 6},
-    {"AS_USHORT", "USHORT", "USHORT", "0x%04hx", "0x%04hx", 6},
-    {"AS_BSHORT", "BSHORT", "BSHORT", "%d", "0x%04hx", 6},
-    {"AS_CHAR", "CHAR", "CHAR", "%d", "0x%02hhx", 5},
-    {"AS_UCHAR", "UCHAR", "UCHAR", "%d", "0x%hhx", 5},
-    {"AS_BCHAR", "BCHAR", "BCHAR", "%d", "0x%02hhx", 5},
-    {"AS_SHORT_2", "SHORT_2", "SHORT2", "%d %d", "0x%04hx 0x%04hx", 8},
-    {"AS_USHORT_2", "USHORT_2", "USHORT2", "%d %d", "0x%04hx 0x%04hx", 8},
-    {"AS_BSHORT_2", "BSHORT_2", "BSHORT2", "%d %d", "0x%04hx 0x%04hx", 8},
-    {"AS_CHAR_4", "CHAR_4", "CHAR4", "%d %d %d %d", "0x%02hx 0x%02hx 0x%02hx 0x%02hx", 8},
-    {"AS_UCHAR_4", "UCHAR_4", "UCHAR4", "%d %d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx 0x%02hhx", 8},
-    {"AS_BCHAR_4", "BCHAR_4", "BCHAR4", "%d %d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx 0x%02hhx", 8},
-    {"AS_CHAR_2", "CHAR_2", "CHAR2", "%d %d", "0x%02hhx 0x%02hhx", 6},
-    {"AS_UCHAR_2", "UCHAR_2", "UCHAR2", "%d %d", "0x%02hhx 0x%02hhx", 6},
-    {"AS_BCHAR_2", "BCHAR_2", "BCHAR2", "%d %d", "0x%02hhx 0x%02hhx", 6},
-    {"AS_MEMID", "MEMID", "MEMID", "%d", "0x%08x", 8},
-    {"AS_CHKSUM", "CHKSUM", "CHKSUM", "%d", "0x%08x", 8},
-    {"AS_ACHAR", "ACHAR", "ACHAR", "%c", "%c", 5},
-    {"AS_ACHAR_2", "ACHAR_2", "ACHAR2", "%c %c", "%c %c", 6},
-    {"AS_ACHAR_4", "ACHAR_4", "ACHAR4", "%c %c %c %c", "%c %c %c %c", 8},
-    {"AS_CHAR_3", "CHAR_3", "CHAR3", "%d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx", 7},
-    {"AS_UCHAR_3", "UCHAR_3", "UCHAR3", "%d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx", 7},
-    {"AS_BCHAR_3", "BCHAR_3", "BCHAR3", "%d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx", 7},
-    {"AS_ACHAR_3", "ACHAR_3", "ACHAR3", "%c %c %c", "%c %c %c", 7},
+    {"AS_NODATA", "NODATA", "NODATA", "", "", CanAerospacePayload::UnsignedBytes, 4},
+    {"AS_ERROR", "ERROR", "ERROR", "%d", "$%08x", CanAerospacePayload::Word, 4},
+    {"AS_FLOAT", "FLOAT", "FLOAT", "%f", "%f", CanAerospacePayload::Float, 8},
+    {"AS_LONG", "LONG", "LONG", "%d", "0x%08x", CanAerospacePayload::Word, 8},
+    {"AS_ULONG", "ULONG", "ULONG", "%d", "0x%08x", CanAerospacePayload::Word, 8},
+    {"AS_BLONG", "BLONG", "BLONG", "%d", "0x%08x", CanAerospacePayload::Word, 8},
+    {"AS_SHORT", "SHORT", "SHORT", "%d", "0x%04hx", CanAerospacePayload::SignedShorts, 6},
+    {"AS_USHORT", "USHORT", "USHORT", "0x%04hx", "0x%04hx", CanAerospacePayload::UnsignedShorts, 6},
+    {"AS_BSHORT", "BSHORT", "BSHORT", "%d", "0x%04hx", CanAerospacePayload::UnsignedShorts, 6},
+    {"AS_CHAR", "CHAR", "CHAR", "%d", "0x%02hhx", CanAerospacePayload::SignedBytes, 5},
+    {"AS_UCHAR", "UCHAR", "UCHAR", "%d", "0x%hhx", CanAerospacePayload::UnsignedBytes, 5},
+    {"AS_BCHAR", "BCHAR", "BCHAR", "%d", "0x%02hhx", CanAerospacePayload::UnsignedBytes, 5},
+    {"AS_SHORT_2", "SHORT_2", "SHORT2", "%d %d", "0x%04hx 0x%04hx", CanAerospacePayload::SignedShorts, 8},
+    {"AS_USHORT_2", "USHORT_2", "USHORT2", "%d %d", "0x%04hx 0x%04hx", CanAerospacePayload::UnsignedShorts, 8},
+    {"AS_BSHORT_2", "BSHORT_2", "BSHORT2", "%d %d", "0x%04hx 0x%04hx", CanAerospacePayload::UnsignedShorts, 8},
+    {"AS_CHAR_4", "CHAR_4", "CHAR4", "%d %d %d %d", "0x%02hx 0x%02hx 0x%02hx 0x%02hx", CanAerospacePayload::SignedBytes, 8},
+    {"AS_UCHAR_4", "UCHAR_4", "UCHAR4", "%d %d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx 0x%02hhx", CanAerospacePayload::UnsignedBytes, 8},
+    {"AS_BCHAR_4", "BCHAR_4", "BCHAR4", "%d %d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx 0x%02hhx", CanAerospacePayload::UnsignedBytes, 8},
+    {"AS_CHAR_2", "CHAR_2", "CHAR2", "%d %d", "0x%02hhx 0x%02hhx", CanAerospacePayload::SignedBytes, 6},
+    {"AS_UCHAR_2", "UCHAR_2", "UCHAR2", "%d %d", "0x%02hhx 0x%02hhx", CanAerospacePayload::UnsignedBytes, 6},
+    {"AS_BCHAR_2", "BCHAR_2", "BCHAR2", "%d %d", "0x%02hhx 0x%02hhx", CanAerospacePayload::UnsignedBytes, 6},
+    {"AS_MEMID", "MEMID", "MEMID", "%d", "0x%08x", CanAerospacePayload::Word, 8},
+    {"AS_CHKSUM", "CHKSUM", "CHKSUM", "%d", "0x%08x", CanAerospacePayload::Word, 8},
+    {"AS_ACHAR", "ACHAR", "ACHAR", "%c", "%c", CanAerospacePayload::UnsignedBytes, 5},
+    {"AS_ACHAR_2", "ACHAR_2", "ACHAR2", "%c %c", "%c %c", CanAerospacePayload::UnsignedBytes, 6},
+    {"AS_ACHAR_4", "ACHAR_4", "ACHAR4", "%c %c %c %c", "%c %c %c %c", CanAerospacePayload::UnsignedBytes, 8},
+    {"AS_CHAR_3", "CHAR_3", "CHAR3", "%d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx", CanAerospacePayload::SignedBytes, 7},
+    {"AS_UCHAR_3", "UCHAR_3", "UCHAR3", "%d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx", CanAerospacePayload::UnsignedBytes, 7},
+    {"AS_BCHAR_3", "BCHAR_3", "BCHAR3", "%d %d %d", "0x%02hhx 0x%02hhx 0x%02hhx", CanAerospacePayload::UnsignedBytes, 7},
+    {"AS_ACHAR_3", "ACHAR_3", "ACHAR3", "%c %c %c", "%c %c %c", CanAerospacePayload::UnsignedBytes, 7},
 }};
 // clang-format on
 
 /// What a type code beyond the table is decoded as.
-inline constexpr CanAerospaceTypeInfo unknownCanAerospaceType{
-    "", "", "UNKNOWN", "%d %d %d %d ", "0x%02x 0x%02x 0x%02x 0x%02x ", 8};
+inline constexpr CanAerospaceTypeInfo unknownCanAerospaceType{"",
+                                                              "",
+                                                              "UNKNOWN",
+                                                              "%d %d %d %d ",
+                                                              "0x%02x 0x%02x 0x%02x 0x%02x ",
+                                                              CanAerospacePayload::UnsignedBytes,
+                                                              8};
 
 /// Bytes of a frame that a raw selection reads, by its index.
 inline constexpr std::array<const char*, 18> rawSelections{

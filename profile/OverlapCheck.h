@@ -2,10 +2,10 @@
 
 #include "profile/ProfileParameter.h"
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <unordered_map>
+#include <vector>
 
 namespace zul {
 
@@ -13,16 +13,27 @@ namespace zul {
 class OverlapCheck
 {
 public:
-    /// Marks the bits of a parameter with its line, which is above 0. The line that marked the
-    /// first bit that was taken already, or nothing. Marking ends at that bit. Bits outside the 64
-    /// of a frame are ignored.
+    /// Marks the bits of a parameter with its line. The line that marked the first bit that was
+    /// taken already, or nothing. Marking ends at that bit. Bits outside the 64 of a frame are
+    /// ignored.
     std::optional<int> mark(const ProfileParameter& parameter, int line);
 
 private:
-    static constexpr std::int64_t cellCount = 64;
-    using Cells = std::array<int, cellCount>; ///< line that marked a bit last, or 0
+    /// Bits that were marked by one line, `last` included.
+    struct Run
+    {
+        std::uint8_t first;
+        std::uint8_t last;
+        int line;
+    };
 
-    std::unordered_map<std::uint32_t, Cells> m_frames; ///< by identifier
+    struct Frame
+    {
+        std::uint64_t taken = 0;
+        std::vector<Run> runs{}; ///< a later one overwrites the earlier ones
+    };
+
+    std::unordered_map<std::uint32_t, Frame> m_frames; ///< by identifier
 };
 
 } // namespace zul

@@ -1,6 +1,7 @@
 #include "profile/PositionCheck.h"
 
 #include "profile/DataTypes.h"
+#include "profile/ProfileNumbers.h"
 
 namespace zul {
 
@@ -8,24 +9,20 @@ namespace {
 
 struct Position
 {
-    std::uint32_t byte;
-    std::uint32_t bit;
+    int byte;
+    int bit;
 
-    bool is(std::uint32_t otherByte, std::uint32_t otherBit) const
-    {
-        return byte == otherByte && bit == otherBit;
-    }
-    bool isInFrame() const { return byte <= 7 && bit <= 7; }
+    bool equals(int otherByte, int otherBit) const { return byte == otherByte && bit == otherBit; }
+    bool isInFrame() const { return byte >= 0 && byte <= 7 && bit >= 0 && bit <= 7; }
 };
 
-// One parameter's positions and where they are complained of. Numbers out of an int's range are
-// shown as C's "%d" shows them.
+// One parameter's positions and where they are complained of.
 class Check
 {
 public:
     Check(const ProfileParameter& parameter, int line, ProfileReport& report)
-        : m_spp{parameter.sppByte, parameter.sppBit},
-          m_epp{parameter.eppByte, parameter.eppBit},
+        : m_spp{asSigned(parameter.sppByte), asSigned(parameter.sppBit)},
+          m_epp{asSigned(parameter.eppByte), asSigned(parameter.eppBit)},
           m_line(line),
           m_report(report)
     {
@@ -42,33 +39,34 @@ public:
             wholeBytes();
             break;
         case PositionRule::TwoBytes:
-            expect(m_spp.byte == m_epp.byte + 1, "SPP Byte must be EPP Byte + 1");
-            expect(m_spp.byte <= 7 && m_spp.byte % 2 == 1, "SPP Byte must be 1,3,5,7");
+            expect(distance() == 1, "SPP Byte must be EPP Byte + 1");
+            expect(m_spp.byte > 0 && m_spp.byte <= 7 && m_spp.byte % 2 == 1,
+                   "SPP Byte must be 1,3,5,7");
             wholeBytes();
             break;
         case PositionRule::FourBytes:
-            expect(m_spp.byte == m_epp.byte + 3, "SPP Byte must be EPP Byte + 3");
+            expect(distance() == 3, "SPP Byte must be EPP Byte + 3");
             expect(m_spp.byte == 3 || m_spp.byte == 7, "SPP Byte must be 3,7");
             wholeBytes();
             break;
         case PositionRule::EightBytes:
-            expect(m_spp.is(7, 0) && m_epp.is(0, 7), "Must be 7.0/0.7");
+            expect(m_spp.equals(7, 0) && m_epp.equals(0, 7), "Must be 7.0/0.7");
             break;
         case PositionRule::Free:
-            free();
+            anyBits();
             break;
         }
     }
 
 private:
-    static int shown(std::uint32_t number) { return static_cast<int>(number); }
+    // In bytes, from EPP to SPP.
+    std::int64_t distance() const { return std::int64_t{m_spp.byte} - m_epp.byte; }
 
     void expect(bool holds, const char* ending)
     {
         if (!holds) {
-            m_report.error(m_line, "Invalid SPP/EPP combination %d.%d/%d.%d . %s",
-                           shown(m_spp.byte), shown(m_spp.bit), shown(m_epp.byte), shown(m_epp.bit),
-                           ending);
+            m_report.error(m_line, "Invalid SPP/EPP combination %d.%d/%d.%d . %s", m_spp.byte,
+                           m_spp.bit, m_epp.byte, m_epp.bit, ending);
         }
     }
 
@@ -80,25 +78,25 @@ private:
 
     void zero()
     {
-        if (!m_spp.is(0, 0)) {
-            m_report.error(m_line, "Invalid SPP %d.%d . Must be 0 fo NODATA.", shown(m_spp.byte),
-                           shown(m_spp.bit));
+        if (!m_spp.equals(0, 0)) {
+            m_report.error(m_line, "Invalid SPP %d.%d . Must be 0 fo NODATA.", m_spp.byte,
+                           m_spp.bit);
         }
-        if (!m_epp.is(0, 0)) {
-            m_report.error(m_line, "Invalid EPP %d.%d . Must be 0 fo NODATA.", shown(m_epp.byte),
-                           shown(m_epp.bit));
+        if (!m_epp.equals(0, 0)) {
+            m_report.error(m_line, "Invalid EPP %d.%d . Must be 0 fo NODATA.", m_epp.byte,
+                           m_epp.bit);
         }
     }
 
-    void free()
+    void anyBits()
     {
         if (!m_spp.isInFrame()) {
-            m_report.error(m_line, "Invalid SPP %d.%d . Must be in range [0..7].",
-                           shown(m_spp.byte), shown(m_spp.bit));
+            m_report.error(m_line, "Invalid SPP %d.%d . Must be in range [0..7].", m_spp.byte,
+                           m_spp.bit);
         }
         if (!m_epp.isInFrame()) {
-            m_report.error(m_line, "Invalid EPP %d.%d . Must be in range [0..7].",
-                           shown(m_epp.byte), shown(m_epp.bit));
+            m_report.error(m_line, "Invalid EPP %d.%d . Must be in range [0..7].", m_epp.byte,
+                           m_epp.bit);
         }
         expect(m_spp.byte >= m_epp.byte, "SPP Byte must be greater/equal EPP Byte");
         expect(m_spp.byte != m_epp.byte || m_spp.bit <= m_epp.bit,

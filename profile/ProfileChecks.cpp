@@ -1,7 +1,9 @@
 #include "profile/ProfileChecks.h"
 
+#include "profile/Arinc825Id.h"
 #include "profile/ComposedId.h"
 #include "profile/DataTypes.h"
+#include "profile/ProfileNumbers.h"
 #include "profile/ProfileStore.h"
 
 namespace zul {
@@ -12,17 +14,10 @@ constexpr int maxTextLength = 255;
 constexpr std::uint32_t maxProfileId = 65535;
 constexpr std::uint32_t maxFid = fidCount - 1;
 constexpr std::uint32_t maxNid = 65535;
-// Deliberate: one more than the field holds; it is cut to 0 when the identifier is composed.
-constexpr std::uint32_t maxDoc = 16384;
 constexpr std::uint32_t maxPuc = 999;
 constexpr std::uint32_t minUserUnit = 100;
 constexpr std::uint32_t maxRci = 3;
 constexpr std::int32_t unknownEnumId = -1;
-
-int shown(std::uint32_t number)
-{
-    return static_cast<int>(number);
-}
 
 } // namespace
 
@@ -42,10 +37,11 @@ void ProfileChecks::checkProfileName(int line)
 void ProfileChecks::checkProfileIds(int line)
 {
     if (m_profile.id > maxProfileId) {
-        m_report.error(line, "Profile Id %d out of range [0..65535]", shown(m_profile.id));
+        m_report.error(line, "Profile Id %d out of range [0..65535]", asSigned(m_profile.id));
     }
     if (m_profile.subId > maxProfileId) {
-        m_report.error(line, "Profile Sub-Id %d out of range [0..65535]", shown(m_profile.subId));
+        m_report.error(line, "Profile Sub-Id %d out of range [0..65535]",
+                       asSigned(m_profile.subId));
     }
 }
 
@@ -57,31 +53,32 @@ bool ProfileChecks::isReserved(const CodeTable& table, std::uint32_t fid) const
 
 void ProfileChecks::addUserFid(int line, const ProfileUserFid& userFid)
 {
-    const QByteArray name = reportText(userFid.name);
-    const int code = shown(userFid.code);
+    const int code = asSigned(userFid.code);
     if (!m_profile.userFids.emplace(userFid.code, userFid).second) {
-        m_report.error(line, "User FID %d (%s) exists already ", code, name.constData());
+        m_report.error(line, "User FID %d (%s) exists already ", code,
+                       reportText(userFid.name).constData());
     }
     const CodeTable& table = m_store.fidTable825Part2();
     if (userFid.code > maxFid) {
         m_report.error(line, "User FID %d (%s) invalid. Range must be in [0..127]", code,
-                       name.constData());
+                       reportText(userFid.name).constData());
     } else if (!isReserved(table, userFid.code)) {
         m_report.error(line, "User FID %d (%s) conflicts with standard FID %d (%s)", code,
-                       name.constData(), code, reportText(table.at(userFid.code)).constData());
+                       reportText(userFid.name).constData(), code,
+                       reportText(table.at(userFid.code)).constData());
     }
 }
 
 void ProfileChecks::addUserUnit(int line, const ProfileUserUnit& userUnit)
 {
-    const QByteArray name = reportText(userUnit.name);
-    const int code = shown(userUnit.code);
+    const int code = asSigned(userUnit.code);
     if (!m_profile.userUnits.emplace(userUnit.code, userUnit).second) {
-        m_report.error(line, "User Unit %d (%s) already exists", code, name.constData());
+        m_report.error(line, "User Unit %d (%s) already exists", code,
+                       reportText(userUnit.name).constData());
     }
     if (userUnit.code < minUserUnit || userUnit.code > maxPuc) {
         m_report.error(line, "User Unit %d (%s) invalid. Range must be in [100..999]", code,
-                       name.constData());
+                       reportText(userUnit.name).constData());
     }
 }
 
@@ -92,10 +89,10 @@ void ProfileChecks::addEnumValue(int line, ProfileEnum& enumeration, std::int32_
         m_report.error(line, "Enumeration Value %d (%s) already exists", value,
                        reportText(label).constData());
     }
-    ProfileEnumValue& entry = enumeration.values[value];
-    entry = ProfileEnumValue{};
+    ProfileEnumValue entry;
     entry.value = value;
     entry.label = label;
+    enumeration.values.insert_or_assign(value, entry);
 }
 
 void ProfileChecks::setChannel(int line, const QString& name, ProfileParameter& parameter)
@@ -113,10 +110,10 @@ void ProfileChecks::checkFid(int line, const ProfileParameter& parameter)
 {
     const std::uint32_t fid = parameter.fid;
     if (fid > maxFid) {
-        m_report.error(line, "FID %d invalid. Range must be in [0..127]", shown(fid));
+        m_report.error(line, "FID %d invalid. Range must be in [0..127]", asSigned(fid));
     } else if (isReserved(m_fidTable, fid) && m_profile.userFids.count(fid) == 0) {
         m_report.error(line, "FID %d not defined. Define a User FID or use a standard FID",
-                       shown(fid));
+                       asSigned(fid));
     }
 }
 
@@ -125,11 +122,11 @@ void ProfileChecks::checkDoc(int line, const ProfileParameter& parameter)
     if (!hasDoc(parameter.lcc)) {
         if (parameter.doc > maxNid) {
             m_report.error(line, "NID %d out of range. Range must be in [0..65535]",
-                           shown(parameter.doc));
+                           asSigned(parameter.doc));
         }
-    } else if (parameter.doc > maxDoc) {
+    } else if (parameter.doc > arinc825::maxDocEntry) {
         m_report.error(line, "DOC %d out of range. Range must be in [0..16384]",
-                       shown(parameter.doc));
+                       asSigned(parameter.doc));
     }
 }
 
@@ -137,25 +134,27 @@ void ProfileChecks::checkDfid(int line, const ProfileParameter& parameter)
 {
     if (parameter.dfid > maxFid) {
         m_report.error(line, "DFID %d out of range. Range must be in [0..127]",
-                       shown(parameter.dfid));
+                       asSigned(parameter.dfid));
     }
 }
 
 void ProfileChecks::checkLclPvt(int line, const ProfileParameter& parameter)
 {
     if (parameter.lcl > 1) {
-        m_report.error(line, "LCL %d out of range. Range must be in [0..1]", shown(parameter.lcl));
+        m_report.error(line, "LCL %d out of range. Range must be in [0..1]",
+                       asSigned(parameter.lcl));
     }
     if (parameter.pvt > 1) {
-        m_report.error(line, "PVT %d out of range. Range must be in [0..1]", shown(parameter.pvt));
+        m_report.error(line, "PVT %d out of range. Range must be in [0..1]",
+                       asSigned(parameter.pvt));
     }
 }
 
 void ProfileChecks::checkSid(int line, const ProfileParameter& parameter, std::uint32_t max)
 {
     if (parameter.sid > max) {
-        m_report.error(line, "SID %d out of range. Range must be in [0..%d]", shown(parameter.sid),
-                       shown(max));
+        m_report.error(line, "SID %d out of range. Range must be in [0..%d]",
+                       asSigned(parameter.sid), asSigned(max));
     }
 }
 
@@ -182,11 +181,11 @@ void ProfileChecks::checkPuc(int line, const ProfileParameter& parameter)
 {
     if (parameter.puc > maxPuc) {
         m_report.error(line, "PUC %d out of range. Range must be in [0..999]",
-                       shown(parameter.puc));
+                       asSigned(parameter.puc));
     } else if (m_store.unitTable().count(parameter.puc) == 0 &&
                m_profile.userUnits.count(parameter.puc) == 0) {
         m_report.error(line, "PUC %d not defined. Define a User Unit or use a standard unit",
-                       shown(parameter.puc));
+                       asSigned(parameter.puc));
     }
 }
 
@@ -247,7 +246,7 @@ void ProfileChecks::file(int line, const ProfileParameter& parameter)
     }
     auto& parameters = group(parameter.fid).parameters;
     parameters.emplace_hint(parameters.end(), parameter.serial, parameter);
-    m_store.parameterIndex().emplace(parameter.id, parameter);
+    m_store.addToIndex(parameter);
 }
 
 ProfileFidGroup& ProfileChecks::group(std::uint32_t fid)

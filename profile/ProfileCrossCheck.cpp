@@ -1,5 +1,7 @@
 #include "profile/ProfileCrossCheck.h"
 
+#include "profile/ProfileNumbers.h"
+
 #include <QStringBuilder>
 
 #include <unordered_map>
@@ -20,21 +22,20 @@ QString usedBy(const QString& fileName)
     return QStringLiteral(" already used by ") % fileName.toHtmlEscaped();
 }
 
-QString decimal(std::uint32_t number)
-{
-    return QString::number(static_cast<qint32>(number));
-}
-
 class CrossCheck
 {
 public:
     explicit CrossCheck(QString& report) : m_report(report) {}
 
-    void take(const ArincProfile& profile)
+    void takeReport(const ArincProfile& profile)
     {
         if (!profile.valid) {
             append(profile.result);
         }
+    }
+
+    void take(const ArincProfile& profile)
+    {
         checkId(profile);
         for (const auto& [code, fid] : profile.userFids) {
             checkCode(m_userFids, code, QStringLiteral("FID "), profile);
@@ -70,7 +71,8 @@ private:
     {
         const QString*& owner = owners[code];
         if (owner != nullptr) {
-            append(message(profile.fileName, what % decimal(code) % usedBy(*owner)));
+            append(
+                message(profile.fileName, what % QString::number(asSigned(code)) % usedBy(*owner)));
         }
         owner = &profile.fileName;
     }
@@ -80,10 +82,11 @@ private:
     {
         const QString*& owner = m_identifiers[parameter.id];
         if (owner != nullptr && *owner != profile.fileName) {
-            append(message(profile.fileName, QStringLiteral("LCC/FID/DOC ") %
-                                                 decimal(parameter.lcc) % QLatin1Char('/') %
-                                                 decimal(parameter.fid) % QLatin1Char('/') %
-                                                 decimal(parameter.doc) % usedBy(*owner)));
+            append(message(profile.fileName,
+                           QStringLiteral("LCC/FID/DOC ") %
+                               QString::number(asSigned(parameter.lcc)) % QLatin1Char('/') %
+                               QString::number(asSigned(parameter.fid)) % QLatin1Char('/') %
+                               QString::number(asSigned(parameter.doc)) % usedBy(*owner)));
         }
         owner = &profile.fileName;
     }
@@ -91,9 +94,7 @@ private:
     void append(const QString& text)
     {
         m_isClean = false;
-        if (!m_isFull) {
-            m_isFull = !appendToReport(m_report, text, maxCheckLength);
-        }
+        appendToReport(m_report, text, maxCheckLength);
     }
 
     QString& m_report;
@@ -102,7 +103,6 @@ private:
     Owners m_userUnits;
     Owners m_identifiers;
     bool m_isClean = true;
-    bool m_isFull = false;
 };
 
 } // namespace
@@ -110,6 +110,9 @@ private:
 bool crossCheck(const std::map<QString, ArincProfile>& profiles, QString& report)
 {
     CrossCheck check(report);
+    for (const auto& [name, profile] : profiles) {
+        check.takeReport(profile);
+    }
     for (const auto& [name, profile] : profiles) {
         check.take(profile);
     }

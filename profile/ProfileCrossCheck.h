@@ -10,11 +10,11 @@
 namespace zul {
 
 /// Longest text of all checks together, in characters: what a window can still show.
-inline constexpr int maxCheckLength = 2 * maxReportLength;
+inline constexpr int maxCheckLength = 4 * maxReportLength;
 
 /// Holds the profiles, in the order of their names, against each other: ids, user function codes,
 /// user units, and identifiers that two files define. The reports of profiles that are not valid
-/// are appended to `report`, and so is every message. False if anything was appended.
+/// are appended to `report`, and behind them every message. False if anything was appended.
 ///
 /// Deliberate: of several profiles of one id only the latest is compared with the next.
 bool crossCheck(const std::map<QString, ArincProfile>& profiles, QString& report);

@@ -9,25 +9,33 @@
 
 namespace zul {
 
+namespace {
+
+bool isAsciiDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
+
+} // namespace
+
 int decimalNumber(const QString& text)
 {
+    constexpr int low = std::numeric_limits<int>::min();
+    constexpr int high = std::numeric_limits<int>::max();
     bool isNumber = false;
     const qlonglong number = text.toLongLong(&isNumber, 10);
-    if (!isNumber) {
-        // Of digits alone, but more than 64 bits hold?
-        const QString digits = text.trimmed();
-        const bool isNegative = digits.startsWith(QLatin1Char('-'));
-        const auto first = digits.begin() + (isNegative ? 1 : 0);
-        const bool isWhole = first != digits.end() &&
-                             std::all_of(first, digits.end(), [](QChar c) { return c.isDigit(); });
-        if (!isWhole) {
-            return 0;
-        }
-        return isNegative ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+    if (isNumber) {
+        return static_cast<int>(std::clamp<qlonglong>(number, low, high));
     }
-    constexpr qlonglong low = std::numeric_limits<int>::min();
-    constexpr qlonglong high = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(number, low, high));
+    // Of digits alone, but more than 64 bits hold?
+    const QString digits = text.trimmed();
+    const bool isNegative = digits.startsWith(QLatin1Char('-'));
+    const bool hasSign = isNegative || digits.startsWith(QLatin1Char('+'));
+    const auto first = digits.begin() + (hasSign ? 1 : 0);
+    if (first == digits.end() || !std::all_of(first, digits.end(), isAsciiDigit)) {
+        return 0;
+    }
+    return isNegative ? low : high;
 }
 
 double realNumber(const QString& text)

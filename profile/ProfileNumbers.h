@@ -10,6 +10,13 @@ namespace zul {
 /// that is no number gives 0.
 int decimalNumber(const QString& text);
 
+/// A number of a file as it stood there: fields are unsigned, but negative ones are shown and
+/// written as such.
+constexpr std::int32_t asSigned(std::uint32_t number)
+{
+    return static_cast<std::int32_t>(number);
+}
+
 /// A finite floating-point number with a decimal point; other text gives 0.
 double realNumber(const QString& text);
 

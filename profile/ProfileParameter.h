@@ -25,7 +25,7 @@ struct ProfileParameter
     ParameterKind parameterKind = ParameterKind::Raw;
     std::uint32_t lcc = 0;  ///< logical communication channel
     std::uint32_t fid = 0;  ///< function code
-    std::uint32_t doc = 0;  ///< data object code; on the service channels of a text profile the NID
+    std::uint32_t doc = 0;  ///< data object code; the NID on all channels but EEC and NOC
     std::uint32_t dfid = 0; ///< function code of the server
     std::uint32_t sid = 0;  ///< service identifier
     std::uint32_t lcl = 0;  ///< local data bit
@@ -48,7 +48,7 @@ struct ProfileParameter
     QString notes = QStringLiteral("Notes");    ///< NTS
     std::uint32_t rci = 0;                      ///< redundancy channel; XML only
     double lat = 0.0;                           ///< latency; XML only
-    std::uint32_t id = 0;                       ///< identifier with FSB and RCI 0
+    std::uint32_t id = 0;                       ///< identifier as composed by the reader
     std::uint32_t endian = 1;                   ///< 0 little, 1 big; raw selections only
     QString color = QStringLiteral("#ff8800");  ///< of its plot
     bool showSamples = false;                   ///< plot option

@@ -8,21 +8,25 @@ namespace zul {
 
 namespace {
 
-const QString closingLine =
-    QStringLiteral("<b>Report too long. Further messages are left out.</b><br>");
+constexpr const char* closingLine = "<b>Report too long. Further messages are left out.</b><br>";
+
+// What a message quotes of a text that somebody may have made a million letters long.
+constexpr int maxQuotedLength = 1000;
 
 } // namespace
 
 bool appendToReport(QString& report, const QString& message, int maxLength)
 {
-    if (report.size() + message.size() <= maxLength) {
-        report += message;
-        return true;
+    const QLatin1String closing(closingLine);
+    if (report.endsWith(closing)) {
+        return false;
     }
-    if (!report.endsWith(closingLine)) {
-        report += closingLine;
+    if (report.size() + message.size() > maxLength) {
+        report += closing;
+        return false;
     }
-    return false;
+    report += message;
+    return true;
 }
 
 QString reportTime()
@@ -39,6 +43,9 @@ QString reportHead(const QString& fileName)
 
 QByteArray reportText(const QString& text)
 {
+    if (text.size() > maxQuotedLength) {
+        return (text.left(maxQuotedLength) + QStringLiteral("...")).toHtmlEscaped().toUtf8();
+    }
     return text.toHtmlEscaped().toUtf8();
 }
 

@@ -17,7 +17,8 @@ inline constexpr const char* errorPrefix = "<b><font color=#ff0000>Error   :</b>
 /// could show it; a closing line says that more was found.
 inline constexpr int maxReportLength = 1024 * 1024;
 
-/// Appends a message to a report. False if the report is full: it then gets a closing line once.
+/// Appends a message to a report. False if it does not fit: the report gets a closing line, and
+/// takes nothing any more.
 bool appendToReport(QString& report, const QString& message, int maxLength = maxReportLength);
 
 /// The time of day as reports and text profiles tell it.
@@ -26,7 +27,8 @@ QString reportTime();
 /// The first lines of every report: file name and time.
 QString reportHead(const QString& fileName);
 
-/// The text for the use in a report: what looks like a tag stays text.
+/// The text for the use in a report: what looks like a tag stays text, and what is very long is
+/// cut.
 QByteArray reportText(const QString& text);
 
 /// Collects the messages of one load in a profile's `result` and clears its `valid`.

@@ -71,6 +71,7 @@ ProfileStore::ProfileStore() : m_unitTable(zul::makeUnitTable())
         ++code;
     }
     rebuildFidTables();
+    qRegisterMetaType<ProfileParameter>(); // it travels in signals
 }
 
 void ProfileStore::rebuildFidTables()
@@ -107,8 +108,6 @@ void ProfileStore::loadAll()
 {
     unloadAll();
     rebuildFidTables();
-    m_allValid = true;
-    m_checkResult.clear();
     const SettingsStore& settings = SettingsStore::instance();
     const QString arincSuffix = settings.string(QStringLiteral("Arinc825ProfileSuffix"), QString());
     const QString zorbSuffix = settings.string(QStringLiteral("CanAsProfileSuffix"), QString());
@@ -149,7 +148,8 @@ void ProfileStore::loadArincProfile(const QString& fileName)
     // Deliberate: the parameters of the profile that is dropped stay in the index.
     m_allValid = false;
     zul::appendToReport(m_checkResult,
-                        zul::sameNameMessage(profile.fileName, found->second.fileName));
+                        zul::sameNameMessage(profile.fileName, found->second.fileName),
+                        zul::maxCheckLength);
 }
 
 void ProfileStore::loadZorbProfile(const QString& fileName)
@@ -174,8 +174,7 @@ bool ProfileStore::loadFile(const QString& path)
         ArincProfile profile;
         isLoaded = readProfile(path, profile);
         if (isLoaded) {
-            const QString name = profile.name;
-            m_profiles[name] = std::move(profile);
+            replaceProfile(std::move(profile));
         }
     } else if (*root == zorbProfileGate) {
         ZorbProfile profile;
@@ -190,12 +189,44 @@ bool ProfileStore::loadFile(const QString& path)
     return isLoaded;
 }
 
+void ProfileStore::replaceProfile(ArincProfile profile)
+{
+    const QString name = profile.name;
+    const auto old = m_profiles.find(name);
+    if (old != m_profiles.end()) {
+        for (const auto& [fid, group] : old->second.fids) {
+            for (const auto& [serial, parameter] : group.parameters) {
+                removeFromIndex(parameter);
+            }
+        }
+    }
+    m_profiles[name] = std::move(profile);
+}
+
+void ProfileStore::removeFromIndex(const ProfileParameter& parameter)
+{
+    const auto range = m_parameterIndex.equal_range(parameter.id);
+    for (auto entry = range.first; entry != range.second; ++entry) {
+        if (entry->second.serial == parameter.serial) {
+            m_parameterIndex.erase(entry);
+            return;
+        }
+    }
+}
+
+void ProfileStore::addToIndex(const ProfileParameter& parameter)
+{
+    m_parameterIndex.emplace(parameter.id, parameter);
+}
+
 void ProfileStore::unloadAll()
 {
     m_profiles.clear();
     m_zorbProfiles.clear();
     m_enumerations.clear();
     m_parameterIndex.clear();
+    m_allValid = true;
+    m_checkResult.clear();
 }
 
 bool ProfileStore::checkAll(QString& report)

@@ -18,7 +18,7 @@ class ProfileStore
 public:
     using Profiles = std::map<QString, ArincProfile>;    ///< by name
     using ZorbProfiles = std::map<QString, ZorbProfile>; ///< by name
-    /// By identifier with FSB and RCI cleared; several parameters may lie in one frame.
+    /// By identifier as composed by the readers; several parameters may lie in one frame.
     using ParameterIndex = std::multimap<std::uint32_t, ProfileParameter>;
     using NameTable = std::map<QString, std::uint32_t>;
 
@@ -38,7 +38,7 @@ public:
     /// Reads one XML profile, which replaces one of its name. False if the file is not XML or no
     /// reader takes it; a text profile is not XML.
     bool loadFile(const QString& path);
-    /// Forgets all profiles, their enumerations and the parameter index.
+    /// Forgets all profiles, their enumerations, the parameter index, and what checks found.
     void unloadAll();
     /// Holds the profiles against each other. `report` becomes the text of everything that was
     /// found since the last load, by earlier checks too; the result tells whether that is nothing.
@@ -54,8 +54,10 @@ public:
 
     const Profiles& profiles() const { return m_profiles; }
     const ZorbProfiles& zorbProfiles() const { return m_zorbProfiles; }
-    ParameterIndex& parameterIndex() { return m_parameterIndex; }
     const ParameterIndex& parameterIndex() const { return m_parameterIndex; }
+
+    /// Adds a parameter under its identifier.
+    void addToIndex(const ProfileParameter& parameter);
 
     /// The function codes of the chosen version of the standard.
     const zul::CodeTable& currentFidTable() const;
@@ -89,6 +91,8 @@ private:
                        const QString& zorbSuffix);
     void loadArincProfile(const QString& fileName);
     void loadZorbProfile(const QString& fileName);
+    void replaceProfile(ArincProfile profile);
+    void removeFromIndex(const ProfileParameter& parameter);
     void collectEnumerations();
 
     Profiles m_profiles;

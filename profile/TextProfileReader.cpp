@@ -49,7 +49,7 @@ public:
 private:
     bool fill()
     {
-        constexpr qint64 chunkLength = 64 * 1024;
+        constexpr qint64 chunkLength = qint64{64} * 1024;
         m_chunk = m_stream.read(chunkLength);
         m_position = 0;
         return !m_chunk.isEmpty();
@@ -95,11 +95,12 @@ private:
             header(line);
             return;
         }
-        const QStringList tokens = line.split(QLatin1Char(';'));
-        if (tokens.size() != m_section->tokens) {
-            m_report.error(m_line, "Syntax Error, wrong number of tokens %d", tokens.size());
+        const int tokenCount = line.count(QLatin1Char(';')) + 1;
+        if (tokenCount != m_section->tokens) {
+            m_report.error(m_line, "Syntax Error, wrong number of tokens %d", tokenCount);
             return;
         }
+        const QStringList tokens = line.split(QLatin1Char(';'));
         switch (m_section->kind) {
         case TextSectionKind::Header:
             break;

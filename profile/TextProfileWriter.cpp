@@ -1,7 +1,9 @@
 #include "profile/TextProfileWriter.h"
 
+#include "core/Console.h"
 #include "core/Latin1.h"
 #include "core/Version.h"
+#include "profile/ProfileNumbers.h"
 #include "profile/ProfileReport.h"
 #include "profile/ProfileStore.h"
 #include "profile/TextProfileSections.h"
@@ -18,12 +20,6 @@ constexpr char separator = ';';
 const char* mark(TextSectionKind kind)
 {
     return textSections.at(static_cast<std::size_t>(kind)).mark;
-}
-
-// Negative numbers are kept as they were read.
-qint32 shown(std::uint32_t number)
-{
-    return static_cast<qint32>(number);
 }
 
 void writeHead(QTextStream& stream, const QString& path)
@@ -47,11 +43,11 @@ void writeParameter(QTextStream& stream, const ProfileStore& store,
     }
     for (const std::uint32_t number :
          {parameter.fid, parameter.doc, parameter.lcl, parameter.pvt, parameter.sid}) {
-        stream << separator << shown(number);
+        stream << separator << asSigned(number);
     }
-    stream << separator << shown(parameter.sppByte) << '.' << shown(parameter.sppBit);
-    stream << separator << shown(parameter.eppByte) << '.' << shown(parameter.eppBit);
-    stream << separator << shown(parameter.puc) << separator << parameter.typeName;
+    stream << separator << asSigned(parameter.sppByte) << '.' << asSigned(parameter.sppBit);
+    stream << separator << asSigned(parameter.eppByte) << '.' << asSigned(parameter.eppBit);
+    stream << separator << asSigned(parameter.puc) << separator << parameter.typeName;
     stream << separator << parameter.nme << separator << parameter.pun;
     stream << separator << parameter.min << separator << parameter.max;
     stream << separator << parameter.upr << separator << parameter.notes << '\n';
@@ -74,7 +70,7 @@ void writeParameters(QTextStream& stream, const ProfileStore& store, const Arinc
 {
     stream << mark(TextSectionKind::Parameter) << '\n';
     for (const auto& [fid, group] : profile.fids) {
-        stream << "#\n# " << group.name << " (FID " << shown(fid) << ")\n#\n";
+        stream << "#\n# " << group.name << " (FID " << asSigned(fid) << ")\n#\n";
         for (const auto& [serial, parameter] : group.parameters) {
             writeParameter(stream, store, parameter);
         }
@@ -97,20 +93,24 @@ bool writeTextProfile(const QString& path, const ProfileStore& store, const Arin
     // follow it.
     stream << mark(TextSectionKind::Header) << '\n' << profile.header << "\n\n";
     stream << mark(TextSectionKind::Profile) << "\n#\n"
-           << profile.name << separator << profile.id << separator << profile.subId << "\n\n";
+           << profile.name << separator << asSigned(profile.id) << separator
+           << asSigned(profile.subId) << "\n\n";
     stream << mark(TextSectionKind::Fid) << '\n';
     for (const auto& [code, fid] : profile.userFids) {
-        stream << fid.name << separator << shown(code) << '\n';
+        stream << fid.name << separator << asSigned(code) << '\n';
     }
     stream << '\n' << mark(TextSectionKind::Unit) << '\n';
     for (const auto& [code, unit] : profile.userUnits) {
-        stream << unit.name << separator << shown(code) << '\n';
+        stream << unit.name << separator << asSigned(code) << '\n';
     }
     stream << '\n';
     writeEnums(stream, profile);
     writeParameters(stream, store, profile);
     stream.flush();
-    file.commit(); // Deliberate: only a file that cannot be opened is told
+    if (!file.commit()) {
+        // Deliberate: only a file that cannot be opened makes the result false.
+        print("Profile <%s> not written: %s\n", qPrintable(path), qPrintable(file.errorString()));
+    }
     return true;
 }
 

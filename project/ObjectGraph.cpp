@@ -24,7 +24,7 @@ void describeGraph(Archive& archive, Record& graph)
     archive.field("yMax", graph.yMax);
 }
 
-// The one field whose type is not a number.
+// An enumeration in memory, a number in the file.
 void describeKind(RecordReader& reader, ProfileParameter& parameter)
 {
     std::uint32_t kind = 0;

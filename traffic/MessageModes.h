@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/NumberType.h"
+
 #include <array>
 #include <cstdint>
 
@@ -26,9 +28,6 @@ inline constexpr std::array<DisplayModeTexts, 4> displayModes{{
     {DisplayMode::Arinc825Raw, "ARINC 825 Raw", "ARINC 825 Raw", nullptr},
     {DisplayMode::Arinc825Profile, "ARINC 825 Profile", nullptr, "ARINC-825"},
 }};
-
-/// How numbers are shown. The numbers are stored in project files.
-enum class NumberType : std::int32_t { Decimal = 0, Hexadecimal = 1 };
 
 /// One addressing mode of a frame, by the value of `zul::MessageCan::EMsgMode`.
 struct MessageModeTexts

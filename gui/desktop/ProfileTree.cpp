@@ -1,6 +1,6 @@
 #include "gui/desktop/ProfileTree.h"
 
-#include <QScopedValueRollback>
+#include "profile/ProfileNumbers.h"
 
 namespace gui {
 
@@ -13,12 +13,6 @@ QIcon icon(const char* name)
     return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
 }
 
-// What is no text of a file's own stays within the form that the user sees.
-int shown(std::uint32_t number)
-{
-    return static_cast<int>(number);
-}
-
 QString parameterText(const ProfileParameter& parameter)
 {
     return parameter.nme + QStringLiteral(" [") + parameter.pun + QLatin1Char(']');
@@ -29,8 +23,9 @@ QString parameterToolTip(const ProfileParameter& parameter)
     const QString text =
         parameterText(parameter) +
         QString::asprintf("\nLCC:\t%d\nFID:\t%d\nLCL:\t%d\nPVT:\t%d\nDOC:\t%d\n",
-                          shown(parameter.lcc), shown(parameter.fid), shown(parameter.lcl),
-                          shown(parameter.pvt), shown(parameter.doc));
+                          zul::asSigned(parameter.lcc), zul::asSigned(parameter.fid),
+                          zul::asSigned(parameter.lcl), zul::asSigned(parameter.pvt),
+                          zul::asSigned(parameter.doc));
     // Names come from files; a tag in them is to be seen, not obeyed.
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpacePre) : text;
 }
@@ -52,7 +47,6 @@ ProfileTree::ProfileTree(const Profiles& profiles, QWidget* parent)
 
 void ProfileTree::refill()
 {
-    const QScopedValueRollback<bool> guard(m_filling, true);
     clear();
     for (const auto& [name, profile] : m_profiles) {
         addProfile(profile);
@@ -62,10 +56,11 @@ void ProfileTree::refill()
 void ProfileTree::addProfile(const ArincProfile& profile)
 {
     auto* top = new QTreeWidgetItem({profile.name});
+    top->setData(0, profileNameRole, profile.name);
     top->setIcon(0, m_profileIcon);
     for (const auto& [key, group] : profile.fids) {
-        auto* item =
-            new QTreeWidgetItem(top, {QString::number(shown(key)) + QLatin1Char(' ') + group.name});
+        auto* item = new QTreeWidgetItem(
+            top, {QString::number(zul::asSigned(key)) + QLatin1Char(' ') + group.name});
         item->setIcon(0, m_groupIcon);
         if (!group.parameters.empty()) {
             item->setData(0, groupKeyRole, key);
@@ -78,12 +73,12 @@ void ProfileTree::addProfile(const ArincProfile& profile)
 void ProfileTree::slotExpanded(QTreeWidgetItem* item)
 {
     const QVariant key = item->data(0, groupKeyRole);
-    if (m_filling || !key.isValid() || item->parent() == nullptr) {
+    if (!key.isValid() || item->parent() == nullptr) {
         return;
     }
     item->setData(0, groupKeyRole, QVariant());
     item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
-    const auto profile = m_profiles.find(item->parent()->text(0));
+    const auto profile = m_profiles.find(item->parent()->data(0, profileNameRole).toString());
     if (profile == m_profiles.end()) {
         return;
     }
@@ -91,16 +86,20 @@ void ProfileTree::slotExpanded(QTreeWidgetItem* item)
     if (group == profile->second.fids.end()) {
         return;
     }
+    QList<QTreeWidgetItem*> children;
+    children.reserve(static_cast<int>(group->second.parameters.size()));
     for (const auto& [serial, parameter] : group->second.parameters) {
-        addParameter(*item, parameter);
+        children << parameterItem(parameter);
     }
+    item->addChildren(children);
 }
 
-void ProfileTree::addParameter(QTreeWidgetItem& group, const ProfileParameter& parameter)
+QTreeWidgetItem* ProfileTree::parameterItem(const ProfileParameter& parameter) const
 {
-    auto* item = new QTreeWidgetItem(&group, {parameterText(parameter)});
+    auto* item = new QTreeWidgetItem({parameterText(parameter)});
     item->setIcon(0, m_parameterIcon);
     item->setToolTip(0, parameterToolTip(parameter));
+    return item;
 }
 
 } // namespace gui

@@ -28,13 +28,13 @@ private slots:
     void slotExpanded(QTreeWidgetItem* item);
 
 private:
-    static constexpr int groupKeyRole = Qt::UserRole; ///< of a group whose items are to come
+    static constexpr int groupKeyRole = Qt::UserRole;        ///< of a group whose items are to come
+    static constexpr int profileNameRole = Qt::UserRole + 1; ///< of a profile
 
     void addProfile(const ArincProfile& profile);
-    void addParameter(QTreeWidgetItem& group, const ProfileParameter& parameter);
+    QTreeWidgetItem* parameterItem(const ProfileParameter& parameter) const;
 
     const Profiles& m_profiles;
-    bool m_filling = false;
     QIcon m_profileIcon;
     QIcon m_groupIcon;
     QIcon m_parameterIcon;

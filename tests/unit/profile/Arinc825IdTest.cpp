@@ -290,10 +290,23 @@ TEST(Arinc825Id, ReceivedFrameMatchesItsParameterWhateverItsFsbAndRci)
     ProfileStore store;
     ProfileParameter parameter;
     parameter.id = 0x08280190;
-    store.parameterIndex().emplace(parameter.id, parameter);
+    store.addToIndex(parameter);
     const std::uint32_t received = data::fsb.set(rci.set(parameter.id, 3), 1);
     EXPECT_NE(received, parameter.id);
     EXPECT_EQ(store.parameterIndex().count(parameterKey(received)), 1U);
+}
+
+TEST(Arinc825Id, ParameterKeyAsText)
+{
+    std::array<char, fieldTextCapacity> text{};
+    parameterKeyIdText(text.data(), text.size(), 0x1FADCBEF);
+    EXPECT_STREQ(text.data(), "0x1fa9cbec");
+}
+
+TEST(Arinc825Id, DeliberateLargestDocEntryGivesDocZero)
+{
+    EXPECT_EQ(data::doc.get(data::doc.set(0xfffc, maxDocEntry)), 0U);
+    EXPECT_EQ(data::doc.max(), maxDocEntry - 1);
 }
 
 TEST(Arinc825Id, HeadersAndToolTips)

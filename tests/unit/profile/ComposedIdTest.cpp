@@ -1,5 +1,7 @@
 #include "profile/ComposedId.h"
 
+#include "profile/Arinc825Id.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -47,6 +49,29 @@ TEST(ComposedId, DeliberateSidOfATextProfileIsNotShifted)
     made.sid = 0x3ff;
     made.doc = 0xffff;
     EXPECT_EQ(zul::textProfileId(made), common(4) | 0x7fU << 9 | 0x1ffU);
+}
+
+TEST(ComposedId, DeliberateFieldsBeyondTheirRangesSpillOver)
+{
+    ProfileParameter made = parameter(2);
+    made.doc = 0;
+    made.lcl = 2;
+    made.pvt = 4;
+    made.fid = 128;
+    EXPECT_EQ(zul::textProfileId(made), 2U << 26 | 128U << 19 | 2U << 17 | 4U << 16);
+    EXPECT_EQ(zul::xmlProfileId(made), zul::textProfileId(made));
+    made.fid = 0xffffffff;
+    EXPECT_EQ(zul::xmlProfileId(made), 0xfff80000U | 2U << 17 | 4U << 16);
+}
+
+TEST(ComposedId, DeliberateSidOfATextProfileThatIsNoMultipleOfFourMatchesNoFrame)
+{
+    ProfileParameter made = parameter(4);
+    for (std::uint32_t sid = 0; sid < 128; ++sid) {
+        made.sid = sid;
+        const std::uint32_t id = zul::textProfileId(made);
+        EXPECT_EQ(zul::arinc825::parameterKey(id) == id, sid % 4 == 0) << sid;
+    }
 }
 
 TEST(ComposedId, ServicePlacesInAnXmlProfile)

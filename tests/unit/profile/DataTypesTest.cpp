@@ -42,11 +42,21 @@ TEST(DataTypes, ArincTypesInTheOrderOfTheirCodes)
     }
 }
 
-const std::vector<CanAerospaceTypeInfo>& expectedCanAerospaceTypes()
+struct ExpectedType
+{
+    const char* name;
+    const char* selectionName;
+    const char* label;
+    const char* decimalFormat;
+    const char* hexadecimalFormat;
+    int byteCount;
+};
+
+const std::vector<ExpectedType>& expectedCanAerospaceTypes()
 {
     // Name, name in selections, label of the decoder, formats, bytes of the frame.
     // clang-format off
-    static const std::vector<CanAerospaceTypeInfo> rows{
+    static const std::vector<ExpectedType> rows{
         {"AS_NODATA", "NODATA", "NODATA", "", "", 4},
         {"AS_ERROR", "ERROR", "ERROR", "%d", "$%08x", 4},
         {"AS_FLOAT", "FLOAT", "FLOAT", "%f", "%f", 8},
@@ -84,7 +94,7 @@ const std::vector<CanAerospaceTypeInfo>& expectedCanAerospaceTypes()
 
 TEST(DataTypes, CanAerospaceTypesInTheOrderOfTheirCodes)
 {
-    const std::vector<CanAerospaceTypeInfo>& expected = expectedCanAerospaceTypes();
+    const std::vector<ExpectedType>& expected = expectedCanAerospaceTypes();
     ASSERT_EQ(canAerospaceTypes.size(), expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {
         const CanAerospaceTypeInfo& type = canAerospaceTypes[i];

@@ -30,8 +30,10 @@ TEST(LinearPosition, CountsFromTheLastByte)
     EXPECT_EQ(zul::linearPosition(0, 7), 63);
     EXPECT_EQ(zul::linearPosition(0, 0), 56);
     EXPECT_EQ(zul::linearPosition(8, 0), -8);
-    EXPECT_LT(zul::linearPosition(4294967295U, 0), 0);
-    EXPECT_GT(zul::linearPosition(0, 4294967295U), 63);
+    EXPECT_EQ(zul::linearPosition(4294967295U, 0), 64) << "byte -1";
+    EXPECT_EQ(zul::linearPosition(7, 4294967295U), -1) << "bit -1";
+    EXPECT_LT(zul::linearPosition(2147483647U, 0), 0);
+    EXPECT_GT(zul::linearPosition(0, 2147483647U), 63);
 }
 
 TEST_F(Overlap, NeighboursDoNotConflict)
@@ -73,9 +75,23 @@ TEST_F(Overlap, PositionsOutsideTheFrameAreIgnored)
 {
     EXPECT_EQ(check.mark(at(9, 0, 9, 7), 1), std::nullopt);
     EXPECT_EQ(check.mark(at(9, 0, 9, 7), 2), std::nullopt);
-    EXPECT_EQ(check.mark(at(0, 60, 0, 4294967295U), 3), std::nullopt);
-    EXPECT_EQ(check.mark(at(4294967295U, 0, 0, 4294967295U), 4), std::nullopt);
-    EXPECT_EQ(check.mark(at(0, 7, 0, 7), 5), 4);
+    EXPECT_EQ(check.mark(at(0, 60, 0, 2147483647U), 3), std::nullopt);
+    EXPECT_EQ(check.mark(at(4294967295U, 0, 0, 7), 4), std::nullopt) << "from byte -1";
+    EXPECT_EQ(check.mark(at(7, 0, 0, 7), 5), std::nullopt);
+    EXPECT_EQ(check.mark(at(2147483647U, 0, 0, 2147483647U), 6), 5);
+}
+
+TEST_F(Overlap, MarksOfManyLinesAreFoundAgain)
+{
+    for (int line = 1; line <= 64; ++line) {
+        const auto position = static_cast<std::uint32_t>(line - 1);
+        EXPECT_EQ(check.mark(at(position / 8, position % 8, position / 8, position % 8), line),
+                  std::nullopt);
+    }
+    for (int line = 1; line <= 64; ++line) {
+        const auto position = static_cast<std::uint32_t>(line - 1);
+        EXPECT_EQ(check.mark(at(position / 8, position % 8, 0, 7), 100 + line), line);
+    }
 }
 
 TEST_F(Overlap, EndBelowStartMarksNothing)

@@ -60,6 +60,21 @@ TEST_F(Cross, ReportsOfInvalidProfilesInTheOrderOfTheirNames)
     EXPECT_EQ(check(), QStringLiteral("report a report b "));
 }
 
+TEST_F(Cross, MessagesStandBehindAllReports)
+{
+    add("A", 1, 0).userFids[100];
+    ArincProfile& b = add("B", 1, 0);
+    b.userFids[100];
+    b.valid = false;
+    b.result = QStringLiteral("report b ");
+    ArincProfile& c = add("C", 3);
+    c.valid = false;
+    c.result = QStringLiteral("report c ");
+    EXPECT_EQ(check(), QStringLiteral("report b report c ") +
+                           message("B.pro", "uses the same id/sub-id name as A.pro") +
+                           message("B.pro", "FID 100 already used by A.pro"));
+}
+
 TEST_F(Cross, SameIdWithOtherSubIdIsFine)
 {
     add("A", 1, 0);
@@ -103,6 +118,15 @@ TEST_F(Cross, IdentifierOfTwoFiles)
     EXPECT_EQ(check(), message("B.pro", "LCC/FID/DOC 2/4/100 already used by A.pro"));
 }
 
+TEST_F(Cross, IdentifierOfThreeFilesNamesTheFileBefore)
+{
+    addParameter(add("A", 1), 77);
+    addParameter(add("B", 2), 77);
+    addParameter(add("C", 3), 77);
+    EXPECT_EQ(check(), message("B.pro", "LCC/FID/DOC 2/4/100 already used by A.pro") +
+                           message("C.pro", "LCC/FID/DOC 2/4/100 already used by B.pro"));
+}
+
 TEST_F(Cross, ProfilesOfOneFileNameShareIdentifiers)
 {
     addParameter(add("A", 1), 77);
@@ -123,12 +147,16 @@ TEST_F(Cross, ReportIsBounded)
 {
     ArincProfile& a = add("A", 1);
     ArincProfile& b = add("B", 2);
-    for (std::uint32_t id = 0; id < 40000; ++id) {
+    for (std::uint32_t id = 0; id < 80000; ++id) {
         addParameter(a, id);
         addParameter(b, id);
     }
-    EXPECT_LE(check().size(), zul::maxCheckLength + 100);
-    EXPECT_FALSE(isClean);
+    QString report = check();
+    EXPECT_LE(report.size(), zul::maxCheckLength + 100);
+    EXPECT_TRUE(report.endsWith(QStringLiteral("Further messages are left out.</b><br>")));
+    const int size = report.size();
+    EXPECT_FALSE(zul::crossCheck(profiles, report));
+    EXPECT_EQ(report.size(), size) << "nothing behind the closing line";
 }
 
 } // namespace

@@ -25,9 +25,15 @@ TEST(ProfileNumbers, Decimal)
 
 TEST(ProfileNumbers, TextThatIsNoNumberIsZero)
 {
-    for (const char* text : {"", " ", "x", "0x10", "12a", "1.5", "-", "--1", "1-"}) {
+    for (const char* text : {"", " ", "x", "0x10", "12a", "1.5", "-", "+", "--1", "1-", "+-1"}) {
         EXPECT_EQ(decimal(text), 0) << text;
     }
+}
+
+TEST(ProfileNumbers, DigitsOfOtherScriptsAreNoNumbers)
+{
+    EXPECT_EQ(zul::decimalNumber(QStringLiteral("\u0663")), 0);
+    EXPECT_EQ(zul::decimalNumber(QStringLiteral("\uff15")), 0);
 }
 
 TEST(ProfileNumbers, LargeNumbersAreClampedAndSoStayOutOfEveryRange)
@@ -40,6 +46,7 @@ TEST(ProfileNumbers, LargeNumbersAreClampedAndSoStayOutOfEveryRange)
     EXPECT_EQ(decimal("99999999999999999999999"), high);
     EXPECT_EQ(decimal("-2147483648"), low);
     EXPECT_EQ(decimal("-99999999999999999999999"), low);
+    EXPECT_EQ(decimal("+99999999999999999999"), high);
     EXPECT_EQ(zul::decimalNumber(QString(400, QLatin1Char('9'))), high);
 }
 

@@ -8,6 +8,7 @@
 #include "tests/support/WorkingDirectory.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <gmock/gmock.h>
 
@@ -253,6 +254,76 @@ TEST_F(Store, LoadFileNeverTakesAZorbProfile)
     EXPECT_FALSE(store.loadFile(home.file(latin1("a.xml"))));
     EXPECT_FALSE(store.loadFile(home.file(latin1("b.xml"))));
     EXPECT_TRUE(store.zorbProfiles().empty());
+}
+
+TEST_F(Store, LoadFileReplacesAProfileOfItsNameAndKeepsTheOthers)
+{
+    // The text reader finds sections in the lines of an XML file.
+    const QByteArray xml = "<Arinc825Profile><!--\n" +
+                           text("A", "1;0", "<enum>\nE;1;One\n" + parameter("4;1")) +
+                           "-->\n</Arinc825Profile>\n";
+    home.write(latin1("a.xml"), xml);
+    home.write(latin1("b.pro"), text("B", "2;0", parameter("4;2")));
+    store.loadAll();
+    for (int round = 1; round <= 2; ++round) {
+        EXPECT_TRUE(store.loadFile(home.file(latin1("a.xml"))));
+        EXPECT_EQ(names(), QStringList({latin1("A"), latin1("B")}));
+        EXPECT_EQ(store.parameterIndex().size(), 2U) << "the old one's parameters are gone";
+        const ProfileEnum& enumeration = store.profiles().at(latin1("A")).enums.at(latin1("E"));
+        EXPECT_EQ(store.enumText(enumeration.enumId, 1), latin1("1: One"));
+    }
+}
+
+TEST_F(Store, FunctionCodesStayThoseOfTheStandard)
+{
+    home.write(latin1("a.pro"), text("A", "1;0", "<fid>\nOwn;21\nMine;4\n"));
+    store.loadAll();
+    EXPECT_EQ(store.fidTable825Part2(), zul::makeFidTable825Part2());
+    EXPECT_EQ(store.fidTable825Part3(), zul::makeFidTable825Part3());
+    store.loadFile(home.file(latin1("a.pro")));
+    EXPECT_EQ(store.fidTable825Part2().size(), 128U);
+}
+
+TEST_F(Store, DirectoryAndFileThatCannotBeReadAreSkipped)
+{
+    QDir(home.path()).mkdir(latin1("dir.pro"));
+    QFile::link(latin1("nowhere"), home.file(latin1("link.pro")));
+    home.write(latin1("a.pro"), text("A"));
+    store.loadAll();
+    EXPECT_EQ(names(), QStringList(latin1("A")));
+    EXPECT_EQ(check(), "");
+}
+
+TEST_F(Store, EmptyHomeIsTheRoot)
+{
+    home.write(latin1("a.pro"), text("A"));
+    const EnvironmentVariable zulHome("ZUL_HOME", QByteArray(""));
+    store.loadAll();
+    EXPECT_EQ(names(), QStringList(latin1("A")));
+}
+
+TEST_F(Store, ClearForgetsWhatChecksFound)
+{
+    home.write(latin1("a.pro"), text("Same"));
+    home.write(latin1("b.pro"), text("Same"));
+    store.loadAll();
+    EXPECT_NE(check(), "");
+    store.unloadAll();
+    EXPECT_EQ(check(), "");
+    EXPECT_TRUE(isClean);
+}
+
+TEST_F(Store, LoadAllForgetsThatSomethingWasWrong)
+{
+    home.write(latin1("a.pro"), text("Same"));
+    home.write(latin1("b.pro"), text("Same"));
+    store.loadAll();
+    check();
+    EXPECT_FALSE(isClean);
+    QFile::remove(home.file(latin1("b.pro")));
+    store.loadAll();
+    check();
+    EXPECT_TRUE(isClean);
 }
 
 TEST_F(Store, LoadFileForgetsWhatWasFoundBefore)

@@ -25,7 +25,7 @@ protected:
     QStringList read(const QByteArray& content)
     {
         home.write(fileName, content);
-        profile = ArincProfile();
+        profile = used;
         EXPECT_TRUE(zul::readTextProfile(home.file(fileName), store, profile));
         const QStringList lines = zul::test::reportLines(profile.result);
         EXPECT_EQ(profile.valid, lines.isEmpty());
@@ -61,6 +61,7 @@ protected:
     zul::test::TestHome home;
     zul::test::SettableClock clock{0.0};
     ProfileStore store;
+    ArincProfile used; // what the next file is read into
     ArincProfile profile;
 };
 
@@ -93,6 +94,22 @@ TEST_F(TextReader, EmptyFileIsAnEmptyValidProfile)
     EXPECT_THAT(read(""), IsEmpty());
     EXPECT_TRUE(profile.fids.empty());
     EXPECT_EQ(profile.fileName, home.file(fileName));
+}
+
+TEST_F(TextReader, UsedProfileIsEmptied)
+{
+    used.valid = false;
+    used.header = QStringLiteral("old");
+    used.fids[1];
+    used.enums[QStringLiteral("old")];
+    used.userFids[1];
+    used.userUnits[1];
+    EXPECT_THAT(read(""), IsEmpty());
+    EXPECT_EQ(profile.header, QString());
+    EXPECT_TRUE(profile.fids.empty());
+    EXPECT_TRUE(profile.enums.empty());
+    EXPECT_TRUE(profile.userFids.empty());
+    EXPECT_TRUE(profile.userUnits.empty());
 }
 
 TEST_F(TextReader, SectionsInAnyOrderAndRepeated)
@@ -464,8 +481,16 @@ TEST_F(TextReader, ProfilesAreNotHeldAgainstEachOther)
 
 TEST_F(TextReader, PositionsOutOfEveryRange)
 {
-    readParameter({{6, "99999999999.-5"}, {7, "-3.4294967295"}, {9, "OPAQUE"}});
-    EXPECT_FALSE(profile.valid);
+    EXPECT_EQ(
+        readParameter({{6, "99999999999.-5"}, {7, "-3.4294967295"}, {9, "OPAQUE"}}),
+        QStringList(
+            {QStringLiteral("2 Error: Invalid SPP 2147483647.-5 . Must be in range [0..7]."),
+             QStringLiteral("2 Error: Invalid EPP -3.2147483647 . Must be in range [0..7].")}));
+    EXPECT_EQ(
+        readParameter({{6, "-1.0"}, {9, "OPAQUE"}}),
+        QStringList({QStringLiteral("2 Error: Invalid SPP -1.0 . Must be in range [0..7]."),
+                     QStringLiteral("2 Error: Invalid SPP/EPP combination -1.0/0.7 . SPP Byte "
+                                    "must be greater/equal EPP Byte")}));
     readParameter({{6, "0"}, {7, "."}, {9, "OPAQUE"}});
     EXPECT_TRUE(profile.valid) << profile.result.toStdString();
 }
@@ -505,6 +530,38 @@ TEST_F(TextReader, EndlessLineIsCut)
     EXPECT_THAT(read("<fid>\n" + QByteArray(length, ';') + "\nOwn;21\n"),
                 ElementsAre(QStringLiteral("2 Error: Syntax Error, wrong number of tokens %1")
                                 .arg(zul::maxProfileLineLength + 1)));
+}
+
+TEST_F(TextReader, LongTextDoesNotSilenceTheMessagesBehindIt)
+{
+    const QByteArray name(200'000, '&');
+    const QStringList lines = readParameter({{9, name.constData()}, {14, "-1"}});
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_LT(lines.at(0).size(), 10'000);
+    EXPECT_EQ(lines.at(1), QStringLiteral("2 Error: UPR invalid value"));
+}
+
+TEST_F(TextReader, LinesAcrossTheBorderOfABlock)
+{
+    constexpr int block = 64 * 1024;
+    for (int before = block - 4; before <= block + 1; ++before) {
+        const QByteArray comment = '#' + QByteArray(before - 2, 'x') + '\n';
+        EXPECT_EQ(read(comment + "<fid>\r\nA\r\n\xc3\xa9;21\n"),
+                  one("3 Error: Syntax Error, wrong number of tokens 1"));
+        EXPECT_EQ(profile.userFids.at(21).name, QStringLiteral("\u00e9"));
+    }
+}
+
+TEST_F(TextReader, MarkOfByteOrderIsNoText)
+{
+    EXPECT_THAT(read("\xef\xbb\xbf<profile>\nName;1;2\n"), IsEmpty());
+    EXPECT_EQ(profile.id, 1U);
+}
+
+TEST_F(TextReader, NidBeyondItsRangeGivesSevenBits)
+{
+    readParameter({{0, "NSC"}, {2, "65536"}});
+    EXPECT_EQ(only().dfid, 0U);
 }
 
 TEST_F(TextReader, HeaderIsBounded)
@@ -604,7 +661,10 @@ TEST_F(TextReader, UnknownDataTypeAndEnumerationFollowTheFreeRule)
               QStringList({QStringLiteral("2 Error: Invalid DTN What"),
                            QStringLiteral("2 Error: Invalid SPP/EPP combination 2.4/2.3 . SPP Bit "
                                           "must be smaller/equal EPP Bit")}));
-    EXPECT_EQ(read("<enum>\nE;0;Off\n<parameter>\n" + line({{6, "0.8"}, {9, "E"}})).size(), 2);
+    EXPECT_EQ(read("<enum>\nE;0;Off\n<parameter>\n" + line({{6, "0.8"}, {9, "E"}})),
+              QStringList({QStringLiteral("4 Error: Invalid SPP 0.8 . Must be in range [0..7]."),
+                           QStringLiteral("4 Error: Invalid SPP/EPP combination 0.8/0.7 . SPP Bit "
+                                          "must be smaller/equal EPP Bit")}));
 }
 
 } // namespace

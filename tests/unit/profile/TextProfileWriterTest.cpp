@@ -68,10 +68,12 @@ TEST_F(TextWriterOfProfiles, UnknownChannelIsAnEmptyToken)
 
 TEST_F(TextWriterOfProfiles, NumbersAreKeptAsTheyWereRead)
 {
-    const ArincProfile first = read("<fid>\nA;-1\n<parameter>\n"
+    const ArincProfile first = read("<profile>\nP;-1;-2\n<fid>\nA;-1\n<parameter>\n"
                                     "NOC;-1;-2;-3;-4;-5;-6.-7;-8.-9;-10;UCHAR;N;U;-1.5;1e9;-1;T\n");
     const ArincProfile second = read(write(first));
     const ProfileParameter& parameter = second.fids.begin()->second.parameters.begin()->second;
+    EXPECT_EQ(static_cast<int>(second.id), -1);
+    EXPECT_EQ(static_cast<int>(second.subId), -2);
     EXPECT_EQ(second.userFids.begin()->first, 0xffffffffU);
     EXPECT_EQ(static_cast<int>(parameter.fid), -1);
     EXPECT_EQ(static_cast<int>(parameter.doc), -2);
@@ -100,6 +102,13 @@ TEST_F(TextWriterOfProfiles, FileThatCannotBeOpened)
 {
     EXPECT_FALSE(
         zul::writeTextProfile(home.path() + QStringLiteral("none/b.pro"), store, ArincProfile()));
+}
+
+TEST_F(TextWriterOfProfiles, TextsOfOtherScriptsComeBack)
+{
+    const ArincProfile first = read("<profile>\n\xce\xa9 \xc2\xb0;1;2\n");
+    EXPECT_EQ(first.name, QStringLiteral("\u03a9 \u00b0"));
+    EXPECT_EQ(read(write(first)).name, first.name);
 }
 
 TEST_F(TextWriterOfProfiles, ValidIsNotConsulted)
