@@ -8,6 +8,9 @@
 #include "profile/ProfileReport.h"
 #include "profile/TextProfileReader.h"
 #include "profile/TextProfileWriter.h"
+#include "profile/XmlProfileNames.h"
+#include "profile/XmlProfileReader.h"
+#include "profile/XmlProfileWriter.h"
 #include "profile/XmlSource.h"
 #include "profile/ZorbProfileReader.h"
 
@@ -19,7 +22,6 @@
 
 namespace {
 
-const QLatin1String arincProfileRoot("Arinc825Profile");
 // Deliberate: the reader of ZORB profiles wants "ZORBprofile", so that none comes this way.
 const QLatin1String zorbProfileGate("ZORBProfile");
 
@@ -170,7 +172,7 @@ bool ProfileStore::loadFile(const QString& path)
         return false; // Deliberate: also for a text profile, although the file dialog offers it
     }
     bool isLoaded = false;
-    if (*root == arincProfileRoot) {
+    if (*root == QLatin1String(zul::xmlProfile::root)) {
         ArincProfile profile;
         isLoaded = readProfile(path, profile);
         if (isLoaded) {
@@ -240,11 +242,18 @@ bool ProfileStore::checkAll(QString& report)
 
 bool ProfileStore::readProfile(const QString& path, ArincProfile& profile)
 {
+    if (isXmlVersion()) {
+        return zul::readXmlProfile(path, *this, profile);
+    }
     return zul::readTextProfile(path, *this, profile);
 }
 
 bool ProfileStore::writeProfile(const QString& path, const ArincProfile& profile) const
 {
+    if (isXmlVersion()) {
+        zul::writeXmlProfile(path, profile); // Deliberate: a failure is not told
+        return true;
+    }
     return zul::writeTextProfile(path, *this, profile);
 }
 

@@ -8,4 +8,10 @@ std::uint32_t nextSerial()
     return next++;
 }
 
+std::uint32_t nextLru825Serial()
+{
+    static std::uint32_t next = 0;
+    return next++;
+}
+
 } // namespace zul

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 
 namespace zul {
 
@@ -13,52 +14,44 @@ bool XmlSource::open(const QString& path)
 {
     m_file.setFileName(path);
     // Nothing but a file: opening a pipe would wait for its other end.
-    if (!QFileInfo(path).isFile() || !m_file.open(QIODevice::ReadOnly) || !hasBoundedRuns() ||
-        !isWellFormed()) {
+    if (!QFileInfo(path).isFile() || !m_file.open(QIODevice::ReadOnly) || !isWellFormed()) {
         return false;
     }
-    m_file.seek(0);
-    m_reader.setDevice(&m_file);
+    m_text.start();
+    m_reader.setDevice(&m_text);
     m_reader.setNamespaceProcessing(false);
     return m_reader.readNextStartElement();
 }
 
-bool XmlSource::hasBoundedRuns()
+bool XmlSource::isAt(const char* element) const
 {
-    constexpr qint64 blockSize = 1024 * 1024;
-    qint64 run = 0;
-    while (!m_file.atEnd()) {
-        const QByteArray block = m_file.read(blockSize);
-        if (block.isEmpty()) {
-            return false; // reading failed
-        }
-        const int first = block.indexOf('<');
-        run += first >= 0 ? first : block.size();
-        if (run > maxRun) {
-            print("%s: no tag in %lld bytes, not read\n", qPrintable(m_file.fileName()),
-                  static_cast<long long>(maxRun));
-            return false;
-        }
-        if (first >= 0) {
-            run = block.size() - block.lastIndexOf('<');
-        }
-    }
-    return true;
+    return m_reader.qualifiedName() == QLatin1String(element);
+}
+
+int XmlSource::line() const
+{
+    constexpr qint64 last = std::numeric_limits<int>::max();
+    return static_cast<int>(std::min<qint64>(m_reader.lineNumber(), last));
 }
 
 bool XmlSource::isWellFormed()
 {
-    m_file.seek(0);
-    QXmlStreamReader reader(&m_file);
+    m_text.start();
+    QXmlStreamReader reader(&m_text);
     reader.setNamespaceProcessing(false);
     while (!reader.atEnd()) {
+        m_text.allow(maxRun);
         reader.readNext();
-        if (reader.isDTD() && !reader.entityDeclarations().isEmpty()) {
+        if (reader.isDTD() && reader.text().contains(QLatin1Char('['))) {
             return false;
         }
         if (reader.isStartElement() && m_root.isEmpty()) {
-            m_root = reader.name().toString();
+            m_root = reader.qualifiedName().toString();
         }
+    }
+    if (m_text.isExhausted()) {
+        print("%s: no tag in %lld bytes, not read\n", qPrintable(m_file.fileName()),
+              static_cast<long long>(maxRun));
     }
     return !reader.hasError();
 }

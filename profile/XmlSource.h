@@ -1,5 +1,7 @@
 #pragma once
 
+#include "profile/XmlTextDevice.h"
+
 #include <QFile>
 #include <QString>
 #include <QXmlStreamReader>
@@ -14,25 +16,39 @@ namespace zul {
 class XmlSource
 {
 public:
-    /// Most bytes between two tags. What is longer is no profile, and would have to be held in
-    /// memory as a whole.
+    /// Most bytes of one tag, text, comment or the like, give or take a block of reading. What is
+    /// longer is no profile, and would have to be held in memory as a whole.
     static constexpr qint64 maxRun = qint64{64} * 1024 * 1024;
 
-    /// False if the file cannot be opened, is not well-formed, declares entities of its own (a
-    /// short file of that kind can fill the memory), or has more than `maxRun` bytes without a tag.
+    XmlSource() : m_text(m_file) {}
+
+    /// False if the file cannot be opened, is not well-formed, has a document type with
+    /// declarations of its own (by entities or default values a short file of that kind can fill
+    /// the memory), or has more than `maxRun` bytes without a tag. Else it stands at the start of
+    /// the root element.
     bool open(const QString& path);
 
-    /// Name of the root element.
+    /// Name of the root element, with its prefix if it has one.
     const QString& root() const { return m_root; }
 
-    /// Stands on the start of the root element after `open`.
-    QXmlStreamReader& reader() { return m_reader; }
+    /// Goes to the start of the next child of the element that it stands in. False if there is
+    /// none: it then stands at that element's end.
+    bool nextChild() { return m_reader.readNextStartElement(); }
+    /// Whether it stands at an element of that name.
+    bool isAt(const char* element) const;
+    /// Goes to the end of the element whose start it stands at.
+    void skip() { m_reader.skipCurrentElement(); }
+
+    /// The attributes of the element whose start it stands at.
+    QXmlStreamAttributes attributes() const { return m_reader.attributes(); }
+    /// The line in which the start tag ends that it stands at; the first line is 1.
+    int line() const;
 
 private:
-    bool hasBoundedRuns();
     bool isWellFormed();
 
     QFile m_file;
+    XmlTextDevice m_text;
     QXmlStreamReader m_reader;
     QString m_root;
 };

@@ -23,17 +23,17 @@ ProfileParameter readParameter(const QXmlStreamAttributes& attributes, ProfileSt
     return parameter;
 }
 
-ZorbChapter readChapter(QXmlStreamReader& reader, ProfileStore& store, std::uint32_t number)
+ZorbChapter readChapter(XmlSource& source, ProfileStore& store, std::uint32_t number)
 {
     ZorbChapter chapter;
     chapter.fid = number;
-    chapter.name = xmlText(reader.attributes(), "name");
-    while (reader.readNextStartElement()) {
-        if (reader.name() == QLatin1String("Parameter")) {
-            const ProfileParameter parameter = readParameter(reader.attributes(), store);
+    chapter.name = xmlText(source.attributes(), "name");
+    while (source.nextChild()) {
+        if (source.isAt("Parameter")) {
+            const ProfileParameter parameter = readParameter(source.attributes(), store);
             chapter.parameters.emplace(parameter.serial, parameter);
         }
-        reader.skipCurrentElement();
+        source.skip();
     }
     return chapter;
 }
@@ -47,15 +47,14 @@ bool readZorbProfile(const QString& path, ProfileStore& store, ZorbProfile& prof
     if (!source.open(path) || source.root() != QLatin1String(zorbProfileRoot)) {
         return false;
     }
-    QXmlStreamReader& reader = source.reader();
-    profile.name = xmlText(reader.attributes(), "name");
+    profile.name = xmlText(source.attributes(), "name");
     std::uint32_t number = 0;
-    while (reader.readNextStartElement()) {
-        if (reader.name() == QLatin1String("Chapter")) {
-            profile.fids[number] = readChapter(reader, store, number);
+    while (source.nextChild()) {
+        if (source.isAt("Chapter")) {
+            profile.fids[number] = readChapter(source, store, number);
             ++number;
         } else {
-            reader.skipCurrentElement();
+            source.skip();
         }
     }
     return true;

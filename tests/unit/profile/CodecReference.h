@@ -76,7 +76,8 @@ inline double ieeeDouble(std::uint64_t bits)
 
 inline std::int64_t linear(std::uint32_t byte, std::uint32_t bit)
 {
-    return std::int64_t{bit} + (7 - std::int64_t{byte}) * 8;
+    return std::int64_t{static_cast<std::int32_t>(bit)} +
+           (7 - std::int64_t{static_cast<std::int32_t>(byte)}) * 8;
 }
 
 /// `count` bits from the start position on, or all there are.

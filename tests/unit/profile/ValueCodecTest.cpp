@@ -250,10 +250,14 @@ TEST(ValueCodec, EnumWithAbsurdPositions)
     // A bit that is none of its byte's counts on into the bytes before.
     EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {7, 60, 0, 7})), 15U);
     EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {7, 64, 7, 70})), 0U);
-    EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {7, 0, 7, 0xffffffff})), ~0ULL);
-    EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {4000000000U, 77, 0, 7})), 0U);
-    EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {0, 0, 4000000000U, 77})),
+    EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {7, 0, 7, 0x7fffffff})), ~0ULL);
+    EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {2000000000U, 77, 0, 7})), 0U);
+    EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {0, 0, 2000000000U, 77})),
               std::nullopt);
+    // Byte -1 is the one before the first, and bit -1 the one below the lowest.
+    EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {0xffffffff, 0, 0, 7})),
+              std::nullopt);
+    EXPECT_EQ(enumValue(frame, arincParameter(ArincType::Enum, {7, 0xffffffff, 0, 7})), 0U);
 }
 
 TEST(ValueCodec, InfiniteAndMissingRangesStayDefined)

@@ -1,0 +1,69 @@
+#include "profile/XmlSink.h"
+
+#include "core/XmlText.h"
+
+namespace zul {
+
+namespace {
+
+std::int32_t shown(std::uint32_t number)
+{
+    return static_cast<std::int32_t>(number);
+}
+
+} // namespace
+
+XmlSink::XmlSink(const QString& path) : m_file(path), m_writer(&m_file)
+{
+    m_file.setDirectWriteFallback(true); // a writable file in a directory that is not
+}
+
+bool XmlSink::open()
+{
+    if (!m_file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    // The blanks are those that profiles have always had there. With the formatting on from the
+    // start an empty line would go before, and the file could not be read.
+    m_writer.writeProcessingInstruction(QStringLiteral("xml"),
+                                        QStringLiteral("version = \"1.0\" encoding = \"UTF-8\""));
+    constexpr int indent = 4;
+    m_writer.setAutoFormatting(true);
+    m_writer.setAutoFormattingIndent(indent);
+    return true;
+}
+
+void XmlSink::text(const char* attribute, const QString& value)
+{
+    m_writer.writeAttribute(QLatin1String(attribute), xmlCharacters(value));
+}
+
+void XmlSink::number(const char* attribute, std::int32_t value)
+{
+    m_writer.writeAttribute(QLatin1String(attribute), QString::number(value));
+}
+
+void XmlSink::number(const char* attribute, std::uint32_t value)
+{
+    number(attribute, shown(value));
+}
+
+void XmlSink::real(const char* attribute, double value)
+{
+    m_writer.writeAttribute(QLatin1String(attribute), xmlDouble(value));
+}
+
+void XmlSink::pair(const char* attribute, std::uint32_t first, std::uint32_t second)
+{
+    m_writer.writeAttribute(QLatin1String(attribute), QString::number(shown(first)) +
+                                                          QLatin1Char('.') +
+                                                          QString::number(shown(second)));
+}
+
+bool XmlSink::save()
+{
+    m_writer.writeEndDocument();
+    return !m_writer.hasError() && m_file.commit();
+}
+
+} // namespace zul
