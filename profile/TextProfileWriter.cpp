@@ -8,6 +8,7 @@
 #include "profile/ProfileStore.h"
 #include "profile/TextProfileSections.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QTextStream>
 
@@ -84,7 +85,10 @@ bool writeTextProfile(const QString& path, const ProfileStore& store, const Arin
 {
     QSaveFile file(path);
     file.setDirectWriteFallback(true); // a writable file in a directory that is not
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+    // A device file or a pipe would be replaced by a plain file.
+    const QFileInfo target(path);
+    if ((target.exists() && !target.isFile()) ||
+        !file.open(QIODevice::WriteOnly | QIODevice::Text)) {
         return false;
     }
     QTextStream stream(&file);

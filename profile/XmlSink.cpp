@@ -1,17 +1,11 @@
 #include "profile/XmlSink.h"
 
 #include "core/XmlText.h"
+#include "profile/ProfileNumbers.h"
+
+#include <QFileInfo>
 
 namespace zul {
-
-namespace {
-
-std::int32_t shown(std::uint32_t number)
-{
-    return static_cast<std::int32_t>(number);
-}
-
-} // namespace
 
 XmlSink::XmlSink(const QString& path) : m_file(path), m_writer(&m_file)
 {
@@ -20,7 +14,9 @@ XmlSink::XmlSink(const QString& path) : m_file(path), m_writer(&m_file)
 
 bool XmlSink::open()
 {
-    if (!m_file.open(QIODevice::WriteOnly)) {
+    // A device file or a pipe would be replaced by a plain file.
+    const QFileInfo target(m_file.fileName());
+    if ((target.exists() && !target.isFile()) || !m_file.open(QIODevice::WriteOnly)) {
         return false;
     }
     // The blanks are those that profiles have always had there. With the formatting on from the
@@ -45,7 +41,7 @@ void XmlSink::number(const char* attribute, std::int32_t value)
 
 void XmlSink::number(const char* attribute, std::uint32_t value)
 {
-    number(attribute, shown(value));
+    number(attribute, asSigned(value));
 }
 
 void XmlSink::real(const char* attribute, double value)
@@ -55,9 +51,9 @@ void XmlSink::real(const char* attribute, double value)
 
 void XmlSink::pair(const char* attribute, std::uint32_t first, std::uint32_t second)
 {
-    m_writer.writeAttribute(QLatin1String(attribute), QString::number(shown(first)) +
+    m_writer.writeAttribute(QLatin1String(attribute), QString::number(asSigned(first)) +
                                                           QLatin1Char('.') +
-                                                          QString::number(shown(second)));
+                                                          QString::number(asSigned(second)));
 }
 
 bool XmlSink::save()

@@ -1,5 +1,9 @@
 #include "ReportLines.h"
 #include "core/SettingsStore.h"
+#include "profile/Arinc825Id.h"
+#include "profile/Lru825Document.h"
+#include "profile/Lru825Reader.h"
+#include "profile/Lru825Schema.h"
 #include "profile/ProfileStore.h"
 #include "tests/support/EnvironmentVariable.h"
 #include "tests/support/SettableClock.h"
@@ -68,6 +72,12 @@ TEST_F(FaultySet, EveryMessageOfTheTextReaderOnce)
     expectMessages(QStringLiteral("every-message.pro"), QStringLiteral("every-message.pro.txt"));
 }
 
+TEST_F(FaultySet, EveryMessageOfTheXmlReaderOnce)
+{
+    load(".xml", 1);
+    expectMessages(QStringLiteral("every-message.xml"), QStringLiteral("every-message.xml.txt"));
+}
+
 TEST_F(FaultySet, EveryMessageOfTheCrossCheckOnce)
 {
     load(".pro", 0);
@@ -127,6 +137,43 @@ TEST_F(DemoSet, TextProfileIsClean)
     collect();
     EXPECT_EQ(channels, (std::set<std::uint32_t>{0, 2, 4, 5, 6, 7}));
     EXPECT_TRUE(hasEnumeration && hasUserUnit && hasUserFid);
+}
+
+TEST_F(DemoSet, XmlProfileIsCleanAndHasEveryDataType)
+{
+    load(".xml", 1);
+    EXPECT_TRUE(isClean) << report.toStdString();
+    EXPECT_EQ(store.profiles().size(), 1U) << "the LRU document lies apart";
+    collect();
+    EXPECT_EQ(channels, (std::set<std::uint32_t>{0, 2, 4, 5, 6, 7}));
+    EXPECT_EQ(types.size(), store.dataTypeNames().size());
+    EXPECT_TRUE(hasEnumeration && hasUserUnit && hasUserFid);
+}
+
+TEST_F(DemoSet, BothFormsHaveTheSameIdentifiers)
+{
+    load(".pro", 0);
+    std::set<std::uint32_t> text;
+    for (const auto& [id, parameter] : store.parameterIndex()) {
+        text.insert(id);
+    }
+    load(".xml", 1);
+    for (const std::uint32_t id : text) {
+        EXPECT_EQ(store.parameterIndex().count(id) > 0, true) << id;
+        EXPECT_EQ(zul::arinc825::parameterKey(id), id) << "frames find it";
+    }
+}
+
+TEST_F(DemoSet, LruDocumentIsReadAndWrittenAsItStands)
+{
+    Lru825Schema schema;
+    Lru825Document document;
+    ASSERT_TRUE(zul::readLru825(QStringLiteral("lru/air-data-unit.xml"), schema, document));
+    EXPECT_TRUE(document.valid);
+    EXPECT_EQ(document.interfaces.size(), 2U);
+    EXPECT_EQ(document.transmitMessages.size(), 2U);
+    EXPECT_EQ(document.receiveMessages.size(), 1U);
+    EXPECT_EQ(document.parameters.size(), 4U);
 }
 
 TEST_F(DemoSet, ZorbProfileHasEveryDataType)

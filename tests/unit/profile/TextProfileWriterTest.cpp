@@ -6,8 +6,10 @@
 #include "tests/support/TestHome.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -102,6 +104,15 @@ TEST_F(TextWriterOfProfiles, FileThatCannotBeOpened)
 {
     EXPECT_FALSE(
         zul::writeTextProfile(home.path() + QStringLiteral("none/b.pro"), store, ArincProfile()));
+}
+
+TEST_F(TextWriterOfProfiles, DirectoryAndPipeAreNotReplaced)
+{
+    EXPECT_FALSE(zul::writeTextProfile(home.path(), store, ArincProfile()));
+    const QByteArray pipe = QFile::encodeName(home.file(QStringLiteral("pipe.pro")));
+    ASSERT_EQ(mkfifo(pipe.constData(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_FALSE(zul::writeTextProfile(QFile::decodeName(pipe), store, ArincProfile()));
+    EXPECT_FALSE(QFileInfo(QFile::decodeName(pipe)).isFile());
 }
 
 TEST_F(TextWriterOfProfiles, TextsOfOtherScriptsComeBack)
