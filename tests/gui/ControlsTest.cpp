@@ -221,6 +221,20 @@ TEST(QwtBarItem, SmoothsTheRateAndFloorsTheMaximum)
     EXPECT_EQ(bar.grab().toImage().pixelColor(95, 2), QColor(220, 255, 220));
 }
 
+TEST(QwtBarItem, SmoothsOverTheTimeSinceTheLastCall)
+{
+    zul::test::SettableClock clock(100.0);
+    QwtBarItem bar;
+    clock.advance(1.0);
+    bar.setValue(130.0, 200);
+    ASSERT_NEAR(bar.rate(), 100.0, 1e-4);
+    clock.advance(0.5);
+    bar.setValue(10.0, 200);
+    EXPECT_NEAR(bar.rate(), (0.3 * 100.0 + 0.5 * 10.0) / 0.8, 1e-4);
+    bar.setValue(1000.0, 200); // no time has passed
+    EXPECT_NEAR(bar.rate(), (0.3 * 100.0 + 0.5 * 10.0) / 0.8, 1e-4);
+}
+
 TEST(WidgetLight, PaletteChangesOnlyWithTheState)
 {
     WidgetLight light;
@@ -298,6 +312,17 @@ TEST(WidgetStatus, ShowsLabelValueAndColour)
     row.set({"Temperature \xB0", "x", "nonsense"}); // Latin-1
     EXPECT_EQ(row.label(), QString::fromUtf8("Temperature \xC2\xB0"));
     EXPECT_FALSE(row.valueColor().isValid());
+}
+
+TEST(WidgetStatus, ColourIsThatOfTheActiveAndOfTheInactiveGroup)
+{
+    WidgetStatus row;
+    row.set({"State", "Active", "#dcffdc"});
+    const QPalette colors = row.findChild<QLineEdit*>()->palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        EXPECT_EQ(colors.color(group, QPalette::Base), QColor(0xdc, 0xff, 0xdc)) << group;
+    }
+    EXPECT_NE(colors.color(QPalette::Disabled, QPalette::Base), QColor(0xdc, 0xff, 0xdc));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "gui/frame/MessageBoxes.h"
 #include "gui/frame/MessageGuiAboutDialog.h"
 #include "gui/frame/MessageGuiDialog.h"
+#include "project/ObjectReceive.h"
 #include "tests/gui/DesktopFixture.h"
 
 #include <QAction>
@@ -62,6 +63,43 @@ TEST_F(DeskWindows, SelectingATypeMakesTheObjectAndItsWindow)
     EXPECT_FALSE(subWindow(*receive)->windowIcon().isNull());
     EXPECT_NE(treeItem(*receive), nullptr);
     EXPECT_TRUE(project().isEdited());
+}
+
+TEST_F(DeskWindows, SubWindowAndMenuShowTheWindowsOwnIcon)
+{
+    const Object* receive = add(ObjectType::Receive);
+    m_window->slotObjectRename(receive->id(), QStringLiteral("Nose"));
+    shown("&Window");
+    for (const QIcon& icon :
+         {subWindow(*receive)->windowIcon(), entry("&Window", QStringLiteral("Nose"))->icon()}) {
+        const QImage picture = icon.pixmap(32).toImage();
+        EXPECT_EQ(picture.pixelColor(picture.rect().center()), QColor(Qt::red));
+    }
+    const QImage ofType = treeItem(*receive)->icon(0).pixmap(32).toImage();
+    EXPECT_EQ(ofType.pixelColor(ofType.rect().center()), QColor(Qt::blue));
+}
+
+TEST_F(DeskWindows, NewWindowIsPlacedAndSizedByTheAreaAlone)
+{
+    QMdiArea reference;
+    reference.resize(m_window->mdiArea().size());
+    reference.show();
+    const auto placed = [&reference] {
+        QMdiSubWindow* window = reference.addSubWindow(new ProbeDialog(nullptr, nullptr));
+        window->show();
+        return frameOf(*window);
+    };
+    const QRect first = placed();
+    const Object* receive = add(ObjectType::Receive);
+    EXPECT_EQ(frameOf(*subWindow(*receive)), first);
+    const QRect second = placed();
+    gui::GuiRequests::send(
+        std::make_unique<MessageGuiDialog>(static_cast<int>(ObjectType::Dial), 0));
+    const Object& dial = *project().objects().rbegin()->second;
+    EXPECT_EQ(frameOf(*subWindow(dial)), second);
+    EXPECT_NE(second, first);
+    // Not what objects have from the start.
+    EXPECT_NE(first.size(), QSize(ObjectReceive().width(), ObjectReceive().height()));
 }
 
 TEST_F(DeskWindows, TypeWithoutAWindowLeavesItsObjectInTheProject)

@@ -5,7 +5,9 @@
 #include "gui/desktop/WidgetProperty.h"
 #include "tests/support/ConsoleCapture.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -117,6 +119,45 @@ TEST_F(InterfaceProperties, EditorsFollowTheDescriptionOfTheDevice)
     EXPECT_EQ(m_dialog.findChildren<WidgetProperty*>().size(), 7);
 }
 
+TEST_F(InterfaceProperties, EditorsSpanBothColumnsOfTheGrid)
+{
+    show("libCanGood");
+    const auto* grid = qobject_cast<QGridLayout*>(editor("Btr")->parentWidget()->layout());
+    ASSERT_NE(grid, nullptr);
+    EXPECT_EQ(grid->horizontalSpacing(), 5);
+    EXPECT_EQ(grid->verticalSpacing(), 5);
+    EXPECT_EQ(grid->contentsMargins(), QMargins(5, 5, 5, 5));
+    EXPECT_EQ(grid->columnStretch(0), 1);
+    EXPECT_EQ(grid->columnStretch(1), 2);
+    int expectedRow = 0;
+    for (const char* key : {"InterfaceName", "Btr", "Nbtp", "Dbtp", "Tdcr", "Channel", "Address"}) {
+        int row = -1;
+        int column = -1;
+        int rows = 0;
+        int columns = 0;
+        grid->getItemPosition(grid->indexOf(editor(key)), &row, &column, &rows, &columns);
+        EXPECT_EQ(row, expectedRow) << key;
+        EXPECT_EQ(column, 0) << key;
+        EXPECT_EQ(rows, 1) << key;
+        EXPECT_EQ(columns, 2) << key;
+        EXPECT_EQ(grid->rowStretch(row), 0) << key;
+        ++expectedRow;
+    }
+    EXPECT_GT(grid->rowStretch(expectedRow), 0);
+}
+
+TEST_F(InterfaceProperties, KeyThatTheDeviceNoLongerHasReadsAsEmpty)
+{
+    show("libCanGood");
+    retype(text("Address"), "bus a");
+    ASSERT_EQ(text("Address")->text(), QStringLiteral("bus a"));
+    m_interface.device()->properties()->erase("Address");
+    retype(text("InterfaceName"), "N"); // shows all values anew
+    EXPECT_EQ(text("Address")->text(), QString());
+    EXPECT_EQ(editor("Address")->value(), "");
+    EXPECT_EQ(m_interface.device()->properties()->count("Address"), 0U);
+}
+
 TEST_F(InterfaceProperties, ValuesComeFromTheDeviceWithoutBeingSentBack)
 {
     m_interface.selectDevice("libCanGood");
@@ -211,6 +252,35 @@ TEST_F(InterfaceProperties, FirstDeviceOfAnInterfaceCanBeChosen)
     clickDevice(QStringLiteral("Good"));
     ASSERT_NE(m_interface.device(), nullptr);
     EXPECT_NE(editor("InterfaceName"), nullptr);
+}
+
+TEST_F(InterfaceProperties, DeviceIsChosenByTheKeyboardToo)
+{
+    show("libCanGood");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_dialog));
+    m_devices->setFocus();
+    QTest::keyClick(m_devices, Qt::Key_Down);
+    EXPECT_EQ(chosen(), QStringLiteral("Virtual CAN Bus"));
+    ASSERT_NE(m_interface.device(), nullptr);
+    EXPECT_EQ(m_interface.device()->info().moduleName, "libCanVirtual");
+    EXPECT_NE(editor("BusName"), nullptr);
+    EXPECT_TRUE(m_dialog.hasChanged());
+}
+
+TEST_F(InterfaceProperties, FocusAloneChoosesNoDevice)
+{
+    show("");
+    QApplication::setActiveWindow(&m_dialog);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_dialog));
+    m_dialog.findChild<QPushButton*>(QStringLiteral("ok"))->setFocus();
+    m_devices->setFocus(Qt::TabFocusReason);
+    ASSERT_TRUE(m_devices->hasFocus());
+    ASSERT_NE(m_devices->currentItem(), nullptr); // by the focus
+    EXPECT_EQ(m_interface.device(), nullptr);
+    EXPECT_FALSE(m_dialog.hasChanged());
+    QTest::keyClick(m_devices, Qt::Key_Down);
+    ASSERT_NE(m_interface.device(), nullptr);
+    EXPECT_EQ(m_interface.device()->info().moduleName, "libCanGood");
 }
 
 TEST_F(InterfaceProperties, DeviceThatCannotBeMadeIsAConsoleLineAndNoEditors)

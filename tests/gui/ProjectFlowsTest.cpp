@@ -372,6 +372,34 @@ TEST_F(ProjectFlows, QuitOfTheDefaultProjectAsksNothingAndSavesAll)
     EXPECT_TRUE(m_home.read(QStringLiteral("zul.ini")).contains("OnCloseDialog"));
 }
 
+TEST_F(ProjectFlows, QuitAsksUnlessTheLastSectionOfThePathIsExactlyTheDefaultName)
+{
+    startAndTick();
+    for (const char* name : {"mydefault.zul", "default.zul.zul", "Default.zul", "default"}) {
+        project().save(path(name));
+        project().markEdited();
+        const int before = asked();
+        MessageBoxes::setNextAnswer(QMessageBox::Cancel);
+        trigger(5);
+        EXPECT_EQ(asked(), before + 1) << name;
+        EXPECT_EQ(m_ended, 0) << name;
+    }
+    QDir(m_home.path()).mkdir(QStringLiteral("elsewhere"));
+    project().save(path("elsewhere/default.zul"));
+    const QByteArray saved = m_home.read(QStringLiteral("elsewhere/default.zul"));
+    add(ObjectType::Receive);
+    const int before = asked();
+    MessageBoxes::setNextAnswer(QMessageBox::No);
+    trigger(5);
+    EXPECT_EQ(asked(), before);
+    if (asked() == before) { // the answer is left
+        MessageBoxes::ask(nullptr, QMessageBox::NoIcon, QString(), QString(), {});
+    }
+    EXPECT_EQ(m_ended, 1);
+    EXPECT_EQ(m_home.read(QStringLiteral("elsewhere/default.zul")), saved);
+    EXPECT_TRUE(m_home.read(QStringLiteral("default.zul")).contains("ObjectReceive"));
+}
+
 TEST_F(ProjectFlows, QuitOfAnotherEditedProjectAsksOnce)
 {
     startEdited();

@@ -1,85 +1,31 @@
+#include "core/SettingsStore.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
 #include "gui/controls/WidgetStatus.h"
-#include "gui/frame/GuiRequests.h"
+#include "gui/frame/MessageBoxes.h"
 #include "gui/frame/MessageGuiDialog.h"
 #include "gui/frame/WidgetHeader.h"
-#include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogStatus.h"
-#include "message/MessageCan.h"
-#include "message/MessageContainer.h"
 #include "message/MessageCtrl.h"
 #include "message/MessageStatus.h"
-#include "project/ObjectReceive.h"
-#include "project/Project.h"
+#include "tests/gui/ReceiveFixture.h"
 #include "tests/support/ProbeObjects.h"
-#include "tests/support/SettableClock.h"
-#include "tests/support/TestHome.h"
 
+#include <QAbstractEventDispatcher>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPointer>
 #include <QSignalSpy>
-#include <QTest>
 #include <QToolButton>
-#include <QTreeWidget>
 
-#include <gtest/gtest.h>
+#include <set>
 
 namespace {
 
 using zul::MessageCan;
+using zul::test::batchOf;
 
-MessageContainer batchOf(std::uint32_t id, std::uint32_t byteCount,
-                         MessageCan::EFrameType type = MessageCan::EFrameType::Data)
+class DialogReceiveTest : public zul::test::ReceiveTest
 {
-    auto* frame = new MessageCan;
-    frame->setId(id);
-    frame->setByteCount(byteCount);
-    frame->setFrameType(type);
-    frame->setTimeStamp(1.5);
-    frame->msg()[0] = 0xAB;
-    MessageContainer batch;
-    batch.addMessage(SmartPtr<Message>(frame));
-    batch.setSrcDest("Nose");
-    return batch;
-}
-
-class DialogReceiveTest : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        m_project.load(m_home.file(QStringLiteral("none.zul")));
-        m_object = dynamic_cast<ObjectReceive*>(m_project.createObject(ObjectType::Receive));
-        m_dialog = new gui::DialogReceive(m_object, nullptr);
-        m_tree = m_dialog->findChild<QTreeWidget*>(QStringLiteral("receiveTree"));
-        m_project.save(QString());
-    }
-    void TearDown() override
-    {
-        gui::GuiRequests::setHandler(nullptr);
-        delete m_dialog;
-    }
-    void feed(MessageContainer batch) { m_dialog->receive(batch); }
-    bool painted(int column, const char* text)
-    {
-        return QTest::qWaitFor([&] {
-            return m_tree->topLevelItemCount() > 0 &&
-                   m_tree->topLevelItem(0)->text(column) == QLatin1String(text);
-        });
-    }
-    void click(const char* name)
-    {
-        QTest::mouseClick(m_dialog->findChild<QWidget*>(QLatin1String(name)), Qt::LeftButton);
-    }
-
-    zul::test::TestHome m_home;
-    zul::test::SettableClock m_clock{100.0};
-    Project m_project{{ObjectReceive::typeInfo()}, m_home.file(QStringLiteral("default.zul"))};
-    ObjectReceive* m_object = nullptr;
-    QPointer<gui::DialogReceive> m_dialog;
-    QTreeWidget* m_tree = nullptr;
 };
 
 TEST_F(DialogReceiveTest, HasItsColumnsAndControls)
@@ -313,7 +259,11 @@ TEST_F(DialogReceiveTest, SurvivesItsObject)
 class DialogStatusTest : public testing::Test
 {
 protected:
-    void TearDown() override { delete m_dialog; }
+    void TearDown() override
+    {
+        SettingsStore::instance().reset();
+        delete m_dialog;
+    }
     void report(std::size_t entries)
     {
         auto* status = new zul::MessageStatus;
@@ -376,12 +326,54 @@ TEST_F(DialogStatusTest, ClearStatusGoesToItsOwnInterface)
     EXPECT_EQ(m_interface.sent, std::vector<std::string>{"All Interfaces"});
 }
 
-TEST_F(DialogStatusTest, ClosesWithoutAskingAndKeepsTheInterface)
+TEST_F(DialogStatusTest, ClosesWithoutAskingAndKeepsTheInterfaceWhateverTheSetting)
 {
-    const QSignalSpy kept(m_dialog.data(), &gui::DialogBase::signalDeleteDialog);
-    EXPECT_TRUE(m_dialog->close());
-    EXPECT_EQ(kept.count(), 1);
-    EXPECT_EQ(kept.at(0).at(0).toInt(), m_interface.id());
+    for (const int policy : {0, 1, 2, 3}) {
+        SettingsStore::instance().setInteger(QStringLiteral("OnCloseDialog"), policy);
+        delete m_dialog;
+        m_dialog = new gui::DialogStatus(&m_interface, nullptr);
+        const QSignalSpy kept(m_dialog.data(), &gui::DialogBase::signalDeleteDialog);
+        const QSignalSpy removed(m_dialog.data(), &gui::DialogBase::signalDeleteObject);
+        const int asked = gui::MessageBoxes::count();
+        EXPECT_TRUE(m_dialog->close()) << policy;
+        EXPECT_EQ(gui::MessageBoxes::count(), asked) << policy;
+        EXPECT_EQ(removed.count(), 0) << policy;
+        ASSERT_EQ(kept.count(), 1) << policy;
+        EXPECT_EQ(kept.at(0).at(0).toInt(), m_interface.id());
+    }
+}
+
+/// Timers of 200 ms that run for the object's children or as single shots.
+std::set<int> timersFor(const QObject& object)
+{
+    QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
+    std::set<int> ids;
+    for (const QObject* owner : {static_cast<const QObject*>(dispatcher), &object}) {
+        for (QObject* child : owner->findChildren<QObject*>()) {
+            for (const auto& timer : dispatcher->registeredTimers(child)) {
+                if (timer.interval == 200) {
+                    ids.insert(timer.timerId);
+                }
+            }
+        }
+    }
+    return ids;
+}
+
+TEST_F(DialogStatusTest, ItsTimerOf200MillisecondsRunsOnceAndChangesNothing)
+{
+    delete m_dialog;
+    const std::set<int> others = timersFor(QObject());
+    m_dialog = new gui::DialogStatus(&m_interface, nullptr);
+    std::set<int> own = timersFor(*m_dialog);
+    for (const int id : others) {
+        own.erase(id);
+    }
+    ASSERT_EQ(own.size(), 1U);
+    report(3);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return timersFor(*m_dialog).count(*own.begin()) == 0; }));
+    ASSERT_EQ(visibleRows().size(), 3U);
+    EXPECT_EQ(visibleRows()[2]->value(), QStringLiteral("4"));
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include <QSpinBox>
 #include <QTest>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -157,6 +158,48 @@ TEST_F(WidgetPropertyTest, SpinBoxesHaveTheRangesOfTheRegisters)
     }
 }
 
+/// The label that stands nearest to the control, beside that of the whole property.
+const QLabel* labelBeside(const WidgetProperty& editor, const QWidget& control)
+{
+    const QLabel* nearest = nullptr;
+    int least = 0;
+    for (const QLabel* label : editor.findChildren<QLabel*>()) {
+        if (label->text() == QStringLiteral("Label")) {
+            continue;
+        }
+        const QRect one = label->geometry();
+        const QRect other = control.geometry();
+        const int across = std::max({0, other.left() - one.right(), one.left() - other.right()});
+        const int down = std::max({0, other.top() - one.bottom(), one.top() - other.bottom()});
+        if (nearest == nullptr || across + down < least) {
+            nearest = label;
+            least = across + down;
+        }
+    }
+    return nearest;
+}
+
+TEST_F(WidgetPropertyTest, EveryFieldAndSpinBoxHasItsNameBesideIt)
+{
+    const std::vector<std::pair<PropertyKind, std::vector<const char*>>> rows{
+        {PropertyKind::Btr, {"BTR0", "BTR1"}},
+        {PropertyKind::Nbtp, {"NBTP", "NSJW", "NBRP", "NTSEG1", "NTSEG2"}},
+        {PropertyKind::Dbtp, {"DBTP", "TDC", "DBRP", "DTSEG1", "DTSEG2", "DSJW"}},
+        {PropertyKind::Tdcr, {"TDCR", "TDCO", "TDCF"}}};
+    for (const auto& [kind, names] : rows) {
+        make(kind, {{"1 Mbit/s", 1}});
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_editor.get()));
+        for (const char* name : names) {
+            const auto* control = m_editor->findChild<QWidget*>(QLatin1String(name));
+            ASSERT_NE(control, nullptr) << name;
+            const QLabel* label = labelBeside(*m_editor, *control);
+            EXPECT_EQ(label->text(), QLatin1String(name));
+            EXPECT_TRUE(label->isVisible()) << name;
+            EXPECT_EQ(label->font().pixelSize(), 10) << name;
+        }
+    }
+}
+
 TEST_F(WidgetPropertyTest, TextIsSentAsTyped)
 {
     make(PropertyKind::Text);
@@ -275,6 +318,18 @@ TEST_F(WidgetPropertyTest, TypedBtrBytesAreExchanged)
     QTest::keyClick(edit("BTR1"), Qt::Key_Return);
     EXPECT_EQ(m_sent.size(), 1U);
     EXPECT_EQ(edit("BTR0")->text(), QStringLiteral("34"));
+}
+
+TEST_F(WidgetPropertyTest, BtrFieldOfMoreThanAByteIsNotCut)
+{
+    make(PropertyKind::Btr);
+    m_editor->setValue("20"); // 00, 14
+    type(edit("BTR1"), "123");
+    EXPECT_EQ(lastSent(), "74496"); // 0x12300
+    EXPECT_EQ(edit("BTR0")->text(), QStringLiteral("23"));
+    EXPECT_EQ(edit("BTR1")->text(), QStringLiteral("00"));
+    type(edit("BTR0"), "1234");
+    EXPECT_EQ(lastSent(), "4660"); // 0x1234
 }
 
 TEST_F(WidgetPropertyTest, RegisterShowsAValueWithoutAMatchingChoice)

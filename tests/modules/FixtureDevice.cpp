@@ -11,6 +11,7 @@ namespace fixture {
 namespace {
 
 std::atomic<int> liveDevices{0};
+std::atomic<int> devicesDestroyedOpen{0};
 
 std::unique_ptr<Message> frameFrom(const std::string& text)
 {
@@ -58,6 +59,9 @@ FixtureDevice::FixtureDevice(const DeviceInfo& info)
 FixtureDevice::~FixtureDevice()
 {
     --liveDevices;
+    if (m_open) {
+        ++devicesDestroyedOpen;
+    }
 }
 
 bool FixtureDevice::open()
@@ -116,8 +120,11 @@ bool FixtureDevice::sendMessage(Message* message)
 
 Message* FixtureDevice::recvMessage()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::unique_lock<std::mutex> lock(m_mutex);
     ++m_recvCount;
+    ++m_heldCount;
+    m_released.wait(lock, [this] { return !isSwitchedOn("HoldReceive"); });
+    --m_heldCount;
     if (m_waiting.empty()) {
         return nullptr;
     }
@@ -132,6 +139,7 @@ void FixtureDevice::setProperty(std::string key, std::string value)
     if (!order(key, value)) {
         ++m_applyCount;
         Device::setProperty(std::move(key), std::move(value));
+        m_released.notify_all();
     }
 }
 
@@ -165,6 +173,8 @@ void FixtureDevice::publishCounts()
     m_properties["RecvCount"] = std::to_string(m_recvCount);
     m_properties["ApplyCount"] = std::to_string(m_applyCount);
     m_properties["LiveCount"] = std::to_string(liveDevices);
+    m_properties["HeldCount"] = std::to_string(m_heldCount);
+    m_properties["DestroyedOpen"] = std::to_string(devicesDestroyedOpen);
     m_properties["SentLog"] = m_sentLog;
 }
 

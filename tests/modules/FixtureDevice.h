@@ -2,6 +2,7 @@
 
 #include "message/MessageInterface.h"
 
+#include <condition_variable>
 #include <cstdint>
 #include <deque>
 #include <memory>
@@ -26,11 +27,12 @@ namespace fixture {
 /// Others are stored and obeyed: "FailOpen" and "FailClose" ("1": the operation fails with an error
 /// text), "FailSend", "Lost" ("1": the hardware is gone, the status is 0), "BusStatus" (the status
 /// while open, default 1), "Loopback" ("1": a frame that is sent comes back), "Baudrate" (default
-/// 1000000).
+/// 1000000), "HoldReceive" ("1": `recvMessage` does not return until the value is another).
 ///
 /// Counts: "OpenCount", "CloseCount", "SendCount", "RecvCount", "ApplyCount" (of `setProperty`),
-/// "LiveCount" (devices of this module that exist); "SentLog" ("id/mode/byteCount " of each frame
-/// sent, and "ctrl:n " of each control).
+/// "LiveCount" (devices of this module that exist), "DestroyedOpen" (those that were destroyed and
+/// not closed before), "HeldCount" (calls that "HoldReceive" holds); "SentLog" ("id/mode/byteCount
+/// " of each frame sent, and "ctrl:n " of each control).
 class FixtureDevice : public Device
 {
 public:
@@ -54,6 +56,8 @@ private:
     int number(const std::string& key, int def);
 
     std::mutex m_mutex; // over all below, and over the property map
+    std::condition_variable m_released;
+    int m_heldCount = 0;
     std::deque<std::unique_ptr<Message>> m_waiting;
     std::string m_sentLog;
     bool m_open = false;

@@ -8,12 +8,19 @@
 #include "tests/support/ConsoleCapture.h"
 #include "tests/support/FixtureModules.h"
 #include "tests/support/ProbeObjects.h"
+#include "tests/support/SettableClock.h"
 #include "tests/support/TestHome.h"
 
 #include <QElapsedTimer>
 #include <QThread>
 
 #include <gtest/gtest.h>
+#include <memory>
+#include <utility>
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
 
 namespace {
 
@@ -44,6 +51,15 @@ bool eventually(Condition condition)
     }
     return true;
 }
+
+#if defined(__SANITIZE_ADDRESS__)
+void setLeakCheck(bool on)
+{
+    on ? __lsan_enable() : __lsan_disable();
+}
+#else
+void setLeakCheck(bool) {}
+#endif
 
 class CanInterfaceTest : public testing::Test
 {
@@ -153,6 +169,63 @@ TEST_F(CanInterfaceTest, FramesReachWindowsAndListenersUnderTheInterfacesName)
     m_bus->setDialog(nullptr);
 }
 
+/// Notes its turn in a list that others write to as well.
+class TurnWindow : public zul::test::ProbeWindow
+{
+public:
+    TurnWindow(std::vector<std::string>& turns, std::string name)
+        : m_turns(turns), m_name(std::move(name))
+    {
+    }
+    void receive(MessageContainer&) override { m_turns.push_back(m_name); }
+
+private:
+    std::vector<std::string>& m_turns;
+    std::string m_name;
+};
+
+TEST_F(CanInterfaceTest, BatchGoesToWindowsStatusWindowAndListenersBeforeTheEstimateAndTheEnd)
+{
+    std::vector<std::string> turns;
+    TurnWindow window(turns, "window");
+    TurnWindow statusWindow(turns, "status window");
+    m_receiver->setDialog(&window);
+    m_bus->setDialog(&statusWindow);
+    zul::test::SettableClock clock;
+    m_bus->poll();
+    clock.advance(1.0);
+    comm::BatchListeners::instance().add([&](MessageContainer&) {
+        turns.emplace_back("listener");
+        EXPECT_EQ(m_bus->frameRate(), 0); // not estimated yet
+        EXPECT_TRUE(m_bus->isConnected());
+    });
+    select("libCanGood");
+    ASSERT_TRUE(m_bus->connect());
+    set("InjectFrames", "30");
+    m_bus->link().drain();
+    set("Lost", "1");
+    turns.clear();
+    EXPECT_FALSE(m_bus->poll());
+    EXPECT_EQ(turns, (std::vector<std::string>{"window", "status window", "listener"}));
+    EXPECT_GT(m_bus->frameRate(), 0); // estimated as connected, before the end
+    EXPECT_FALSE(m_bus->isConnected());
+    m_bus->setDialog(nullptr);
+    m_receiver->setDialog(&m_window);
+}
+
+TEST_F(CanInterfaceTest, FrameRateIsCutToAWholeNumber)
+{
+    zul::test::SettableClock clock;
+    m_bus->poll();
+    clock.advance(1.0);
+    select("libCanGood");
+    ASSERT_TRUE(m_bus->connect());
+    set("InjectFrames", "4");
+    m_bus->link().drain();
+    m_bus->poll();
+    EXPECT_EQ(m_bus->frameRate(), 2); // 4 / 1.5
+}
+
 TEST_F(CanInterfaceTest, EmptyBatchesAreDeliveredAlsoWhileDisconnected)
 {
     m_bus->poll();
@@ -174,6 +247,21 @@ TEST_F(CanInterfaceTest, BatchesAreSentByTheAddressedInterfaceAlone)
     m_receiver->send(toThis);
     EXPECT_EQ(property(*m_bus, "SendCount"), "2");
     EXPECT_EQ(toThis.messages()[0].useCount(), 1U); // the container still owns it
+}
+
+TEST_F(CanInterfaceTest, NameOfTheAddressMustBeExactlyTheInterfaces)
+{
+    select("libCanGood");
+    ASSERT_TRUE(m_bus->connect());
+    for (const char* name : {"can 1", "CAN 1 ", " CAN 1", "CAN 11", "CAN", "CAN1", "",
+                             "all interfaces", "All Interfaces ", "All"}) {
+        MessageContainer batch = addressedTo(name);
+        m_receiver->send(batch);
+        EXPECT_EQ(property(*m_bus, "SendCount"), "0") << name;
+    }
+    MessageContainer batch = addressedTo("CAN 1");
+    m_receiver->send(batch);
+    EXPECT_EQ(property(*m_bus, "SentLog"), "291/0/2 ");
 }
 
 TEST_F(CanInterfaceTest, FailureToSendIsIgnoredAndTheRestIsSent)
@@ -211,6 +299,51 @@ TEST_F(CanInterfaceTest, WhatWasWaitingAtDisconnectComesWithTheNextPoll)
     m_bus->poll();
     EXPECT_EQ(m_window.sizes, (std::vector<std::uint32_t>{5}));
     EXPECT_NE(m_console.out().find("Stop Thread\n"), std::string::npos);
+}
+
+TEST_F(CanInterfaceTest, DisconnectTellsWhetherTheDeviceCouldBeClosedAndEndsInAnyCase)
+{
+    select("libCanGood");
+    ASSERT_TRUE(m_bus->connect());
+    set("FailClose", "1");
+    EXPECT_FALSE(m_bus->disconnect());
+    EXPECT_FALSE(m_bus->isConnected());
+    EXPECT_EQ(m_bus->errorMessage(), QStringLiteral("fixture: close failed"));
+    set("FailClose", "0");
+    ASSERT_TRUE(m_bus->connect());
+    EXPECT_TRUE(m_bus->disconnect());
+}
+
+TEST_F(CanInterfaceTest, DeviceIsClosedBeforeItIsDestroyed)
+{
+    select("libCanGood");
+    const std::string before = property(*m_bus, "DestroyedOpen");
+    ASSERT_TRUE(m_bus->connect());
+    select("libCanGood");
+    EXPECT_EQ(property(*m_bus, "LiveCount"), "1");
+    EXPECT_EQ(property(*m_bus, "DestroyedOpen"), before);
+}
+
+TEST_F(CanInterfaceTest, ReaderThatIsStuckInItsDeviceIsLeftAlone)
+{
+    auto bus = std::make_unique<CanInterface>();
+    bus->selectDevice("libCanGood");
+    Device* device = bus->device();
+    device->setProperty("HoldReceive", "1");
+    setLeakCheck(false); // the reader will be left behind on purpose
+    EXPECT_TRUE(bus->connect());
+    setLeakCheck(true);
+    ASSERT_TRUE(eventually([&] { return property(*bus, "HeldCount") == "1"; }));
+    QElapsedTimer timer;
+    timer.start();
+    bus.reset();
+    EXPECT_LT(timer.elapsed(), 5000); // that it came back at all
+    device->setProperty("HoldReceive", "0");
+    EXPECT_TRUE(eventually([&] {
+        device->setProperty("PublishCounts", "1");
+        return device->getStringProp("HeldCount") == "0";
+    }));
+    delete device; // the reader does not come back to it
 }
 
 TEST_F(CanInterfaceTest, ReconnectingAtOnceReadsAgain)

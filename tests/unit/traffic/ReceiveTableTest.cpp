@@ -119,12 +119,6 @@ TEST_F(ReceiveTableTest, RowsAgeAlsoWhileTheInputIsOff)
     EXPECT_EQ(m_table.row(0).count, 1U);
 }
 
-TEST_F(ReceiveTableTest, WithoutBatchesRowsStayAlive)
-{
-    update({1}, 10.0);
-    EXPECT_TRUE(m_table.row(0).active);
-}
-
 TEST_F(ReceiveTableTest, ClearForgetsRowsAndKeepsTheTotal)
 {
     update({1, 2}, 10.0);
