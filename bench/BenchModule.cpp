@@ -10,11 +10,19 @@ constexpr std::uint32_t nanosecondsPerSecond = 1'000'000'000;
 constexpr std::uint32_t identifiers = 2048;
 constexpr std::uint32_t byteCount = 8;
 
-// For the thread that ordered them: an interface's reader finds none, so that every frame takes
-// its road where the benchmark wants it.
-thread_local int framesLeft = 0;
+/// What one draining gets, and what is left of it.
+struct Order
+{
+    int frames = 0;
+    int left = 0;
+};
 
-/// Gives as many frames as the property "Give" orders, to the thread that ordered them.
+// For the thread that ordered: an interface's reader finds none, so that every frame takes its road
+// where the benchmark wants it.
+thread_local Order order;
+
+/// Gives the thread that set the property "Give" that many frames, and as many at each draining
+/// that follows.
 class BenchDevice : public Device
 {
 public:
@@ -40,10 +48,12 @@ public:
 
     Message* recvMessage() override
     {
-        if (framesLeft == 0) {
+        Order& mine = order;
+        if (mine.left == 0) {
+            mine.left = mine.frames;
             return nullptr;
         }
-        --framesLeft;
+        --mine.left;
         m_time.nanoseconds += nanosecondsApart;
         if (m_time.nanoseconds >= nanosecondsPerSecond) {
             m_time.nanoseconds -= nanosecondsPerSecond;
@@ -60,7 +70,7 @@ public:
     void setProperty(std::string key, std::string value) override
     {
         if (key == "Give") {
-            framesLeft = std::atoi(value.c_str());
+            order.frames = order.left = std::atoi(value.c_str());
         }
     }
 

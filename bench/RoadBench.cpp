@@ -60,11 +60,12 @@ public:
     Road& operator=(const Road&) = delete;
 
     bool isReady() const { return m_ready; }
-    void drain(const std::string& frames)
+    /// What each draining by the calling thread gets from now on.
+    void order(std::int64_t frames)
     {
-        m_interface.device()->setProperty("Give", frames);
-        m_interface.link().drain();
+        m_interface.device()->setProperty("Give", std::to_string(frames));
     }
+    void drain() { m_interface.link().drain(); }
     void poll() { m_interface.poll(); }
     /// Frames that the last of the objects got so far.
     std::uint64_t framesArrived() const { return m_windows.back().frames(); }
@@ -80,8 +81,8 @@ private:
 class Drainer
 {
 public:
-    Drainer(Road& road, std::string frames)
-        : m_road(road), m_frames(std::move(frames)), m_thread([this] { run(); })
+    Drainer(Road& road, std::int64_t frames)
+        : m_road(road), m_frames(frames), m_thread([this] { run(); })
     {
     }
 
@@ -115,6 +116,7 @@ private:
 
     void run()
     {
+        m_road.order(m_frames);
         for (;;) {
             {
                 std::unique_lock<std::mutex> lock(m_mutex);
@@ -123,13 +125,13 @@ private:
                     return;
                 }
             }
-            m_road.drain(m_frames);
+            m_road.drain();
             setState(State::Idle);
         }
     }
 
     Road& m_road;
-    std::string m_frames;
+    std::int64_t m_frames;
     std::mutex m_mutex;
     std::condition_variable m_changed;
     State m_state = State::Idle;
@@ -161,20 +163,22 @@ void measure(benchmark::State& state, Turn turn)
 
 void roadOfAFrame(benchmark::State& state)
 {
-    const std::string frames = std::to_string(state.range(0));
-    measure(state, [&frames] {
-        road()->drain(frames);
-        road()->poll();
+    Road& used = *road();
+    used.order(state.range(0));
+    measure(state, [&used] {
+        used.drain();
+        used.poll();
     });
 }
 
 // As in the program: messages are made on the reader's thread and freed on the main one.
 void roadOverTwoThreads(benchmark::State& state)
 {
-    Drainer drainer(*road(), std::to_string(state.range(0)));
-    measure(state, [&drainer] {
+    Road& used = *road();
+    Drainer drainer(used, state.range(0));
+    measure(state, [&] {
         drainer.drainOnce();
-        road()->poll();
+        used.poll();
     });
 }
 

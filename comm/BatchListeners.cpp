@@ -12,18 +12,24 @@ BatchListeners& BatchListeners::instance()
 
 void BatchListeners::add(Listener listener)
 {
-    m_listeners.push_back(std::move(listener));
+    auto listeners = m_listeners != nullptr ? std::make_shared<std::vector<Listener>>(*m_listeners)
+                                            : std::make_shared<std::vector<Listener>>();
+    listeners->push_back(std::move(listener));
+    m_listeners = std::move(listeners);
 }
 
 void BatchListeners::clear()
 {
-    m_listeners.clear();
+    m_listeners.reset();
 }
 
 void BatchListeners::notify(MessageContainer& batch) const
 {
-    const std::vector<Listener> listeners = m_listeners; // one may add another
-    for (const Listener& listener : listeners) {
+    if (m_listeners == nullptr) {
+        return;
+    }
+    const auto listeners = m_listeners; // one may add another
+    for (const Listener& listener : *listeners) {
         listener(batch);
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 class MessageContainer;
@@ -21,7 +22,8 @@ public:
     void notify(MessageContainer& batch) const;
 
 private:
-    std::vector<Listener> m_listeners;
+    // Replaced, never changed: whoever notifies holds on to the list it began with. Null if empty.
+    std::shared_ptr<const std::vector<Listener>> m_listeners;
 };
 
 } // namespace comm

@@ -129,7 +129,7 @@ void CanInterface::receive(MessageContainer& batch)
     if (!isConnected() || device() == nullptr) {
         return;
     }
-    if (batch.srcDest() != allInterfaces && batch.srcDest() != zul::toLatin1(name())) {
+    if (batch.srcDest() != allInterfaces && batch.srcDest() != sourceName()) {
         return;
     }
     for (const auto& message : batch.messages()) {
@@ -223,17 +223,21 @@ int CanInterface::frameRate() const
 
 bool CanInterface::poll()
 {
-    MessageContainer batch(std::move(m_batchStorage));
-    takeReceived(batch);
-    batch.setSrcDest(zul::toLatin1(name()));
-    send(batch);
-    Object::receive(batch); // the status window
-    BatchListeners::instance().notify(batch);
+    // Out of the interface's hands: a window that asks the user something lets polls run meanwhile.
+    std::unique_ptr<MessageContainer> batch = std::move(m_batch);
+    if (batch == nullptr) {
+        batch = std::make_unique<MessageContainer>();
+    }
+    takeReceived(*batch);
+    batch->setSrcDest(sourceName());
+    send(*batch);
+    Object::receive(*batch); // the status window
+    BatchListeners::instance().notify(*batch);
     m_estimator.update(
-        batch, m_statusDriven ? LoadEstimator::Source::Status : LoadEstimator::Source::Frames,
+        *batch, m_statusDriven ? LoadEstimator::Source::Status : LoadEstimator::Source::Frames,
         isConnected(), zul::wallClock());
-    batch.messages().clear();
-    m_batchStorage = std::move(batch);
+    batch->messages().clear();
+    m_batch = std::move(batch);
     if (device() != nullptr && isConnected() && status() == DeviceStatus::Closed) {
         disconnect();
         return false;
@@ -249,6 +253,15 @@ void CanInterface::takeReceived(MessageContainer& batch)
         batch.messages().emplace_back(message);
     }
     m_taken.clear();
+}
+
+const std::string& CanInterface::sourceName()
+{
+    if (m_convertedName != name()) {
+        m_convertedName = name();
+        m_sourceName = zul::toLatin1(name());
+    }
+    return m_sourceName;
 }
 
 void CanInterface::retireReader()

@@ -8,8 +8,6 @@
 #include "project/InterfaceObject.h"
 #include "project/ObjectTypeInfo.h"
 
-#include <QMutex>
-
 #include <atomic>
 #include <memory>
 #include <string>
@@ -64,6 +62,7 @@ public:
 
 private:
     void takeReceived(MessageContainer& batch);
+    const std::string& sourceName();
     void retireReader();
     void readElement(const QDomElement& element);
     void readProperty(const QDomElement& element);
@@ -76,7 +75,10 @@ private:
     // Lists of the poll before, empty: allocating large ones anew at each poll would make the
     // allocator put all its small free blocks together, and slow down the next frames.
     std::vector<Message*> m_taken;
-    MessageContainer m_batchStorage;
+    std::unique_ptr<MessageContainer> m_batch; // null while a poll is at work with it
+    // The name and its Latin-1, which goes with each batch.
+    QString m_convertedName;
+    std::string m_sourceName;
 };
 
 } // namespace comm

@@ -2,15 +2,13 @@
 
 #include "core/GuardedCall.h"
 
-#include <QMutexLocker>
-
 namespace comm {
 
 DeviceLink::DeviceLink() = default;
 
 void DeviceLink::setDevice(Device* device)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_device = device;
 }
 
@@ -21,7 +19,7 @@ void DeviceLink::setConnected()
 
 bool DeviceLink::close()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     const bool closed = zul::guardedCall("close", false, [this] { return m_device->close(); });
     if (m_connected) {
         drainLocked();
@@ -35,7 +33,7 @@ void DeviceLink::drain()
     if (!m_connected) {
         return;
     }
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_connected && m_device != nullptr) {
         drainLocked();
     }
@@ -43,7 +41,7 @@ void DeviceLink::drain()
 
 void DeviceLink::takeReceived(std::vector<Message*>& empty)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     empty.swap(m_received);
 }
 

@@ -2,9 +2,8 @@
 
 #include "message/Device.h"
 
-#include <QMutex>
-
 #include <atomic>
+#include <mutex>
 #include <vector>
 
 namespace comm {
@@ -41,7 +40,7 @@ public:
 private:
     void drainLocked();
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
     std::atomic<bool> m_connected{false};
     Device* m_device = nullptr;
     std::vector<Message*> m_received;

@@ -1,7 +1,7 @@
 #include "core/Clock.h"
 
-#include <QDateTime>
-
+#include <chrono>
+#include <cstdint>
 #include <utility>
 
 namespace zul {
@@ -22,9 +22,11 @@ double wallClock()
     if (source) {
         return source();
     }
-    const qint64 milliseconds = QDateTime::currentMSecsSinceEpoch();
-    const qint64 wholeSeconds = milliseconds / 1000;
-    const qint64 rest = milliseconds % 1000;
+    using std::chrono::milliseconds;
+    const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
+    const std::int64_t count = std::chrono::duration_cast<milliseconds>(sinceEpoch).count();
+    const std::int64_t wholeSeconds = count / 1000;
+    const std::int64_t rest = count % 1000;
     return static_cast<double>(wholeSeconds) + static_cast<double>(rest) * 0.001;
 }
 

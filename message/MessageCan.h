@@ -37,40 +37,44 @@ public:
     MessageCan& operator=(const MessageCan& other);
 
     /// The CAN identifier, 11 or 29 bits by `mode()`.
-    std::uint32_t id() const;
-    void setId(std::uint32_t id);
+    std::uint32_t id() const { return m_id; }
+    void setId(std::uint32_t id) { m_id = id; }
 
     /// Number of valid payload bytes, 0 to 64. The value is kept as set; readers bound it.
-    std::uint32_t byteCount() const;
-    void setByteCount(std::uint32_t byteCount);
+    std::uint32_t byteCount() const { return m_byteCount; }
+    void setByteCount(std::uint32_t byteCount) { m_byteCount = byteCount; }
 
-    EFrameType frameType() const;
-    void setFrameType(EFrameType frameType);
+    EFrameType frameType() const { return m_frameType; }
+    void setFrameType(EFrameType frameType) { m_frameType = frameType; }
 
-    EMsgMode mode() const;
-    void setMode(EMsgMode mode);
+    EMsgMode mode() const { return m_mode; }
+    void setMode(EMsgMode mode) { m_mode = mode; }
 
     /// Channel of the device on which the frame was seen.
-    std::uint32_t channel() const;
-    void setChannel(std::uint32_t channel);
+    std::uint32_t channel() const { return m_channel; }
+    void setChannel(std::uint32_t channel) { m_channel = channel; }
 
     /// Non-zero marks a frame for the device's scheduled-send memory (see `MessageCtrl`): its time
     /// stamp is then a delay, not an absolute time.
-    std::uint32_t cpmMode() const;
-    void setCpmMode(std::uint32_t cpmMode);
+    std::uint32_t cpmMode() const { return m_cpmMode; }
+    void setCpmMode(std::uint32_t cpmMode) { m_cpmMode = cpmMode; }
 
     /// Time of the frame. Both views tell the same instant, whichever setter was used.
-    TimeStamp timeStamp() const;
+    TimeStamp timeStamp() const { return m_timeStamp; }
     /// Time of the frame in seconds; at wall-clock size a double resolves about 0.2 microseconds.
-    double timeStampDouble() const;
-    void setTimeStamp(const TimeStamp& timeStamp);
+    double timeStampDouble() const
+    {
+        constexpr double nanosecondsPerSecond = 1e9;
+        return m_timeStamp.seconds + m_timeStamp.nanoseconds / nanosecondsPerSecond;
+    }
+    void setTimeStamp(const TimeStamp& timeStamp) { m_timeStamp = timeStamp; }
     /// Sets the time in seconds, to the nearest nanosecond. What the record cannot hold is clamped:
     /// negative values and NaN to 0, too large ones to 4294967295 s and 999999999 ns.
     void setTimeStamp(double seconds);
 
     /// The payload.
-    MessageData& msg();
-    const MessageData& msg() const;
+    MessageData& msg() { return m_data; }
+    const MessageData& msg() const { return m_data; }
 
 private:
     MessageData m_data;

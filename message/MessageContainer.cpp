@@ -19,31 +19,6 @@ void MessageContainer::addMessage(SmartPtr<Message> message)
     m_messages.push_back(std::move(message));
 }
 
-MessageContainer::Messages& MessageContainer::messages()
-{
-    return m_messages;
-}
-
-const MessageContainer::Messages& MessageContainer::messages() const
-{
-    return m_messages;
-}
-
-std::uint32_t MessageContainer::size() const
-{
-    return static_cast<std::uint32_t>(m_messages.size());
-}
-
-std::string& MessageContainer::srcDest()
-{
-    return m_srcDest;
-}
-
-const std::string& MessageContainer::srcDest() const
-{
-    return m_srcDest;
-}
-
 void MessageContainer::setSrcDest(const std::string& srcDest)
 {
     m_srcDest = srcDest;

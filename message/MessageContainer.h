@@ -23,14 +23,14 @@ public:
     void addMessage(SmartPtr<Message> message);
 
     /// The batch in order.
-    Messages& messages();
-    const Messages& messages() const;
-    std::uint32_t size() const;
+    Messages& messages() { return m_messages; }
+    const Messages& messages() const { return m_messages; }
+    std::uint32_t size() const { return static_cast<std::uint32_t>(m_messages.size()); }
 
     /// On a received batch the name of the interface that produced it, on a batch to send the name
     /// of the interface that is to send it, or "All Interfaces".
-    std::string& srcDest();
-    const std::string& srcDest() const;
+    std::string& srcDest() { return m_srcDest; }
+    const std::string& srcDest() const { return m_srcDest; }
     void setSrcDest(const std::string& srcDest);
 
 private:

@@ -2,6 +2,8 @@
 
 #include "project/ObjectWindow.h"
 
+#include <algorithm>
+
 namespace {
 
 const QString windowTag = QStringLiteral("Window");
@@ -43,6 +45,7 @@ void Object::addOutput(Object* object)
 {
     if (object != nullptr) {
         m_outputs[object->id()] = object;
+        outputsChanged();
         object->addInput(this);
     }
 }
@@ -51,6 +54,7 @@ void Object::removeOutput(Object* object)
 {
     if (object != nullptr) {
         m_outputs.erase(object->id());
+        outputsChanged();
     }
 }
 
@@ -77,11 +81,26 @@ void Object::receive(MessageContainer& batch)
 
 void Object::send(MessageContainer& batch)
 {
-    // By id and not by iterator: a window may delete objects while it handles its batch.
-    for (auto next = m_outputs.begin(); next != m_outputs.end();) {
-        const int id = next->first;
-        next->second->receive(batch);
-        next = m_outputs.upper_bound(id);
+    for (std::size_t next = 0; next < m_receivers.size();) {
+        Object* const receiver = m_receivers[next];
+        const int id = receiver->id();
+        const std::uint32_t changesBefore = m_outputChanges;
+        receiver->receive(batch);
+        ++next;
+        if (m_outputChanges != changesBefore) {
+            // A window may delete objects while it handles its batch: go on behind this one's id.
+            next = static_cast<std::size_t>(
+                std::distance(m_outputs.begin(), m_outputs.upper_bound(id)));
+        }
+    }
+}
+
+void Object::outputsChanged()
+{
+    ++m_outputChanges;
+    m_receivers.clear();
+    for (const auto& output : m_outputs) {
+        m_receivers.push_back(output.second);
     }
 }
 

@@ -5,7 +5,9 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <map>
+#include <vector>
 
 class InterfaceObject;
 class MessageContainer;
@@ -83,11 +85,17 @@ protected:
     void settingsChanged();
 
 private:
+    void outputsChanged();
+
     friend class Project; // gives project and type
 
     Project* m_project = nullptr;
     Wires m_outputs;
     Wires m_inputs;
+    // The outputs once more, in the same order: walking the tree costs more than what most windows
+    // do with a batch that is not theirs.
+    std::vector<Object*> m_receivers;
+    std::uint32_t m_outputChanges = 0;
     ObjectWindow* m_dialog = nullptr;
     ObjectType m_type;
     int m_id;

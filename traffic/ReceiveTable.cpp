@@ -3,8 +3,22 @@
 #include "project/Filter.h"
 
 #include <algorithm>
+#include <utility>
 
 using zul::MessageCan;
+
+namespace {
+
+void prefetch(const ReceiveRow& row)
+{
+    constexpr std::size_t cacheLine = 64;
+    const auto* begin = reinterpret_cast<const char*>(&row);
+    for (std::size_t offset = 0; offset < sizeof(ReceiveRow); offset += cacheLine) {
+        __builtin_prefetch(begin + offset, 1);
+    }
+}
+
+} // namespace
 
 void ReceiveTable::update(const MessageContainer& batch, bool inputOn, const Filter& filter,
                           double now)
@@ -13,17 +27,38 @@ void ReceiveTable::update(const MessageContainer& batch, bool inputOn, const Fil
         setBack(now);
     }
     m_latest = now;
+    Frames frames{};
+    std::size_t count = 0;
     for (const auto& message : batch.messages()) {
         const auto* frame = message_cast<MessageCan>(message.get());
         if (frame == nullptr) {
             continue;
         }
         ++m_receivedTotal;
-        if (inputOn && filter.matches(frame->id())) {
-            takeFrame(findOrAddRow(frame->id()), *frame, now);
+        if (!inputOn || !filter.matches(frame->id())) {
+            continue;
+        }
+        m_index.prefetch(frame->id());
+        frames[count++] = frame;
+        if (count == frames.size()) {
+            takeFrames(frames, count, now);
+            count = 0;
         }
     }
+    takeFrames(frames, count, now);
     age(now);
+}
+
+void ReceiveTable::takeFrames(const Frames& frames, std::size_t count, double now)
+{
+    std::array<int, framesAtOnce> rows{};
+    for (std::size_t i = 0; i < count; ++i) {
+        rows[i] = findOrAddRow(frames[i]->id());
+        prefetch(row(rows[i]));
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        takeFrame(rows[i], *frames[i], now);
+    }
 }
 
 void ReceiveTable::clear()
@@ -31,7 +66,8 @@ void ReceiveTable::clear()
     m_rows.clear();
     m_index.clear();
     m_dirty.clear();
-    m_sightings.clear();
+    m_lastTimes.clear();
+    m_instants.clear();
     m_ahead.clear();
 }
 
@@ -50,20 +86,23 @@ void ReceiveTable::markAllDirty()
     }
 }
 
-int ReceiveTable::findOrAddRow(std::uint32_t key)
+int ReceiveTable::findOrAddRow(std::uint32_t identifier)
 {
-    const auto [place, isNew] = m_index.try_emplace(key, rowCount());
-    if (isNew) {
+    const int newRow = rowCount();
+    const int index = m_index.findOrAdd(identifier, newRow);
+    if (index == newRow) {
         m_rows.emplace_back();
+        m_lastTimes.push_back(0.0);
     }
-    return place->second;
+    return index;
 }
 
 void ReceiveTable::takeFrame(int index, const MessageCan& frame, double now)
 {
     ReceiveRow& taken = row(index);
     if (!taken.active || taken.count == 0 || taken.lastTime != now) {
-        m_sightings.push_back({now, index});
+        noteSighting(index, now);
+        m_lastTimes[static_cast<std::size_t>(index)] = now;
     }
     taken.msg = frame;
     taken.active = true;
@@ -83,27 +122,29 @@ void ReceiveTable::markDirty(int index)
 
 void ReceiveTable::setBack(double now)
 {
-    while (!m_sightings.empty() && m_sightings.back().time > now) {
-        m_ahead.push_back(m_sightings.back());
-        m_sightings.pop_back();
+    while (!m_instants.empty() && m_instants.back().time > now) {
+        for (const int index : m_instants.back().rows) {
+            m_ahead.push_back({m_instants.back().time, index});
+        }
+        endInstant(m_instants.back());
+        m_instants.pop_back();
     }
 }
 
 void ReceiveTable::age(double now)
 {
-    const auto isSilent = [this, now](const Sighting& sighting) {
-        const ReceiveRow& seen = row(sighting.row);
-        return seen.active && now - seen.lastTime > silentAfter;
-    };
-    while (!m_sightings.empty() && now - m_sightings.front().time > silentAfter) {
-        if (isSilent(m_sightings.front())) {
-            silence(m_sightings.front().row);
+    while (!m_instants.empty() && now - m_instants.front().time > silentAfter) {
+        for (const int index : m_instants.front().rows) {
+            if (isSilent(index, now)) {
+                silence(index);
+            }
         }
-        m_sightings.pop_front();
+        endInstant(m_instants.front());
+        m_instants.pop_front();
     }
     // Kept until the clock has come that far again, or a later frame stands for the row.
     const auto isDone = [&](const Sighting& sighting) {
-        if (isSilent(sighting)) {
+        if (isSilent(sighting.row, now)) {
             silence(sighting.row);
         }
         const ReceiveRow& seen = row(sighting.row);
@@ -112,8 +153,32 @@ void ReceiveTable::age(double now)
     m_ahead.erase(std::remove_if(m_ahead.begin(), m_ahead.end(), isDone), m_ahead.end());
 }
 
+bool ReceiveTable::isSilent(int index, double now) const
+{
+    return now - m_lastTimes[static_cast<std::size_t>(index)] > silentAfter && row(index).active;
+}
+
 void ReceiveTable::silence(int index)
 {
     row(index).active = false;
     markDirty(index);
+}
+
+void ReceiveTable::noteSighting(int index, double now)
+{
+    if (m_instants.empty() || m_instants.back().time != now) {
+        std::vector<int> rows;
+        if (!m_spareLists.empty()) {
+            rows = std::move(m_spareLists.back());
+            m_spareLists.pop_back();
+        }
+        m_instants.push_back({now, std::move(rows)});
+    }
+    m_instants.back().rows.push_back(index);
+}
+
+void ReceiveTable::endInstant(Instant& instant)
+{
+    instant.rows.clear();
+    m_spareLists.push_back(std::move(instant.rows));
 }

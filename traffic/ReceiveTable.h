@@ -2,10 +2,12 @@
 
 #include "message/MessageCan.h"
 #include "message/MessageContainer.h"
+#include "traffic/IdentifierIndex.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
-#include <unordered_map>
 #include <vector>
 
 class Filter;
@@ -16,14 +18,14 @@ struct ReceiveRow
 {
     static constexpr std::uint32_t neverShown = 99;
 
-    zul::MessageCan msg;
     double lastTime = 0.0;    ///< application clock at the last frame, seconds
+    std::uint32_t count = 0;  ///< frames that the row got
     bool active = true;       ///< a frame came within the last 0.5 s
     bool shownActive = false; ///< the `active` that the screen shows
     bool dirty = false;       ///< waits for its repaint
-    std::uint32_t count = 0;  ///< frames that the row got
     /// Byte count for which the lines below the first were last hidden or shown.
     std::uint32_t shownByteCount = neverShown;
+    zul::MessageCan msg;
 };
 
 /// The rows of the Receive window, one for each identifier, in the order of their first frame.
@@ -64,19 +66,36 @@ private:
         int row;
     };
 
-    int findOrAddRow(std::uint32_t key);
+    /// The rows that had a frame in the updates of one instant, in seconds; each once as a rule.
+    struct Instant
+    {
+        double time;
+        std::vector<int> rows;
+    };
+
+    // Frames whose index entries, and then rows, are on their way from memory together.
+    static constexpr std::size_t framesAtOnce = 16;
+    using Frames = std::array<const zul::MessageCan*, framesAtOnce>;
+
+    void takeFrames(const Frames& frames, std::size_t count, double now);
+    int findOrAddRow(std::uint32_t identifier);
     void takeFrame(int index, const zul::MessageCan& frame, double now);
     void markDirty(int index);
     void age(double now);
     void setBack(double now);
+    bool isSilent(int index, double now) const;
     void silence(int index);
+    void noteSighting(int index, double now);
+    void endInstant(Instant& instant);
 
-    std::deque<ReceiveRow> m_rows;
-    std::unordered_map<std::uint32_t, int> m_index;
+    std::vector<ReceiveRow> m_rows;
+    IdentifierIndex m_index;
+    std::vector<double> m_lastTimes; // those of the rows: ageing looks at no others but silent ones
     std::vector<int> m_dirty;
     // At least the last sighting of every active row, in order of time: ageing looks at the front
     // alone.
-    std::deque<Sighting> m_sightings;
+    std::deque<Instant> m_instants;
+    std::vector<std::vector<int>> m_spareLists; // empty ones of instants gone by, for their storage
     // Those that lie ahead of a clock that was set back.
     std::vector<Sighting> m_ahead;
     double m_latest = 0.0; // the `now` of the last update

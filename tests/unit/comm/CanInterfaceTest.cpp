@@ -233,6 +233,16 @@ TEST_F(CanInterfaceTest, EmptyBatchesAreDeliveredAlsoWhileDisconnected)
     EXPECT_EQ(m_window.sizes, (std::vector<std::uint32_t>{0, 0}));
 }
 
+TEST_F(CanInterfaceTest, EachBatchBearsTheNameOfItsTime)
+{
+    m_bus->poll();
+    m_bus->setName(QStringLiteral("CAN \u00C4"));
+    m_bus->poll();
+    m_bus->setName(QString());
+    m_bus->poll();
+    EXPECT_EQ(m_window.sources, (std::vector<std::string>{"CAN 1", "CAN \xC4", ""}));
+}
+
 TEST_F(CanInterfaceTest, BatchesAreSentByTheAddressedInterfaceAlone)
 {
     select("libCanGood");

@@ -4,9 +4,12 @@
 #include "project/WindowMakers.h"
 #include "tests/support/ProbeObjects.h"
 
+#include <array>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -85,6 +88,54 @@ TEST(Object, BatchesReachTheOutputsInAscendingIdAndTheirWindows)
     shown.receive(batch);
     EXPECT_EQ(window.sources, (std::vector<std::string>{"All Interfaces"}));
     shown.setDialog(nullptr);
+}
+
+/// Does something to the project while it handles its batch.
+class ActingWindow : public ProbeWindow
+{
+public:
+    explicit ActingWindow(std::function<void()> action) : m_action(std::move(action)) {}
+    void receive(MessageContainer& batch) override
+    {
+        ProbeWindow::receive(batch);
+        m_action();
+    }
+
+private:
+    std::function<void()> m_action;
+};
+
+TEST(Object, WindowMayChangeTheWiringWhileItHandlesItsBatch)
+{
+    ProbeInterface from;
+    ProbeWindow lastWindow;
+    std::array<std::unique_ptr<ObjectReceive>, 4> objects;
+    for (auto& object : objects) {
+        object = std::make_unique<ObjectReceive>();
+    }
+    ObjectReceive added;
+    ActingWindow window([&] {
+        objects[0].reset();
+        objects[2].reset();
+        from.removeOutput(objects[1].get());
+        from.addOutput(&added);
+    });
+    for (const auto& object : objects) {
+        from.addOutput(object.get());
+    }
+    objects[1]->setDialog(&window);
+    objects[3]->setDialog(&lastWindow);
+    added.setDialog(&lastWindow);
+    MessageContainer batch;
+    from.send(batch);
+    EXPECT_EQ(window.sources.size(), 1U);
+    EXPECT_EQ(lastWindow.sources.size(), 2U);
+    from.send(batch);
+    EXPECT_EQ(window.sources.size(), 1U);
+    EXPECT_EQ(lastWindow.sources.size(), 4U);
+    objects[1]->setDialog(nullptr);
+    objects[3]->setDialog(nullptr);
+    added.setDialog(nullptr);
 }
 
 TEST(Object, WindowIsMadeByTheTableOfMakers)

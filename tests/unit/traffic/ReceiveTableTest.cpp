@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -49,6 +50,31 @@ TEST_F(ReceiveTableTest, OneRowForEachIdentifierInOrderOfArrival)
     EXPECT_EQ(m_table.row(0).shownByteCount, 99U);
     EXPECT_EQ(m_table.row(1).msg.id(), 3U);
     EXPECT_EQ(m_table.receivedTotal(), 4U);
+}
+
+TEST_F(ReceiveTableTest, LargeBatchIsTakenFrameByFrameInOrder)
+{
+    constexpr int frames = 5003;
+    constexpr std::uint32_t identifiers = 97;
+    std::vector<std::uint32_t> ids;
+    for (std::uint32_t i = 0; i < frames; ++i) {
+        ids.push_back(0x1FFFFFFFU - i * i % identifiers);
+    }
+    MessageContainer batch = batchOf(ids);
+    std::map<std::uint32_t, std::pair<std::uint32_t, std::uint32_t>> expected; // count, last number
+    for (std::uint32_t i = 0; i < frames; ++i) {
+        message_cast<MessageCan>(batch.messages()[i].get())->setTimeStamp({i, 0});
+        expected[ids[i]] = {expected[ids[i]].first + 1, i};
+    }
+    m_table.update(batch, true, m_filter, 10.0);
+    ASSERT_EQ(m_table.rowCount(), static_cast<int>(expected.size()));
+    for (int row = 0; row < m_table.rowCount(); ++row) {
+        const ReceiveRow& taken = m_table.row(row);
+        EXPECT_EQ(taken.count, expected.at(taken.msg.id()).first);
+        EXPECT_EQ(taken.msg.timeStamp().seconds, expected.at(taken.msg.id()).second);
+    }
+    EXPECT_EQ(m_table.dirtyRows().size(), expected.size());
+    EXPECT_EQ(m_table.receivedTotal(), static_cast<std::uint32_t>(frames));
 }
 
 TEST_F(ReceiveTableTest, RowIsDirtyOnceHoweverManyFramesItGot)
@@ -140,7 +166,7 @@ TEST_F(ReceiveTableTest, MarkAllDirtyTakesEveryRowOnce)
     EXPECT_EQ(m_table.dirtyRows().size(), 3U);
 }
 
-// The walk over all rows that the ordered list stands in for.
+// The walk over all rows that the queue of sightings stands in for.
 struct SlowRow
 {
     double lastTime;
