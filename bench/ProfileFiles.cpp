@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <array>
 #include <functional>
 
 namespace bench {
@@ -20,13 +21,15 @@ struct Place
     int lsbByte; ///< SPP; EPP is the byte before
 };
 
-// All function codes here are named by both versions of the standard.
-constexpr int fids[] = {4, 8, 12, 16, 20, 24, 28, 32, 36, 44, 48, 52, 56, 60, 64, 68};
+// The first half is of a profile's own, the second named by both versions of the standard.
+constexpr std::array<int, 16> fids{1, 2, 3, 5, 6, 7, 41, 42, 4, 8, 12, 16, 20, 24, 28, 32};
+constexpr std::size_t userFids = 8;
 
 Place place(int parameter, int number)
 {
     const int frame = number * profileBase + parameter / parametersInFrame;
-    return {fids[frame / docCount % 16], frame % docCount, parameter % parametersInFrame * 2 + 1};
+    return {fids.at(static_cast<std::size_t>(frame / docCount)), frame % docCount,
+            parameter % parametersInFrame * 2 + 1};
 }
 
 // Makes the file unless it is there.
@@ -42,19 +45,28 @@ QString file(const QString& path, const std::function<void(QTextStream&)>& write
 
 void writeText(QTextStream& stream, int parameters, int number)
 {
-    stream << "<profile>\nProfile " << number << ';' << number << ";0\n<parameter>\n";
+    stream << "<profile>\nProfile " << number << ';' << number << ";0\n<unit>\nspeed;100\n<fid>\n";
+    for (std::size_t i = 0; i < userFids; ++i) {
+        stream << "Function;" << fids.at(i) << '\n';
+    }
+    stream << "<parameter>\n";
     for (int i = 0; i < parameters; ++i) {
         const Place at = place(i, number);
         stream << "NOC;" << at.fid << ';' << at.doc << ";0;0;0;" << at.lsbByte << ".0;"
-               << at.lsbByte - 1 << ".7;19;SHORT;Parameter Number " << i
+               << at.lsbByte - 1 << ".7;100;SHORT;Parameter Number " << i
                << ";m/s;-100;100;50;Note on number " << i << '\n';
     }
 }
 
 void writeXml(QTextStream& stream, int parameters, int number)
 {
-    stream << "<Arinc825Profile version=\"1.0\" name=\"Profile " << number << "\" id=\"" << number
-           << ".0\" comment=\"\"><ParameterList>\n";
+    stream
+        << "<Arinc825Profile version=\"1.0\" name=\"Profile " << number << "\" id=\"" << number
+        << ".0\" comment=\"\"><UnitList><Unit name=\"speed\" code=\"100\"/></UnitList>\n<FidList>";
+    for (std::size_t i = 0; i < userFids; ++i) {
+        stream << "<Fid name=\"Function\" code=\"" << fids.at(i) << "\"/>";
+    }
+    stream << "</FidList>\n<ParameterList>\n";
     int fid = -1;
     for (int i = 0; i < parameters; ++i) {
         const Place at = place(i, number);
@@ -64,7 +76,7 @@ void writeXml(QTextStream& stream, int parameters, int number)
         }
         stream << "<Parameter lcc=\"NOC\" doc=\"" << at.doc << "\" lcl=\"0\" pvt=\"0\" spp=\""
                << at.lsbByte << ".0\" epp=\"" << at.lsbByte - 1
-               << ".7\" puc=\"19\" pua=\"m/s\" dtn=\"SHORT\" nme=\"Parameter Number " << i
+               << ".7\" puc=\"100\" pua=\"m/s\" dtn=\"SHORT\" nme=\"Parameter Number " << i
                << "\" min=\"-100\" max=\"100\" upt=\"50\" lat=\"0\" rci=\"0\" nts=\"Note on number "
                << i << "\"/>\n";
     }
