@@ -70,6 +70,6 @@ struct ArincProfile
     QString result;    ///< report of the load, as HTML
 };
 
-/// A CANaerospace profile: name and chapters are filled, nothing else.
+/// A CANaerospace profile: name, chapters and file name are filled, nothing else.
 using ZorbProfile = ArincProfile;
 using ZorbChapter = ProfileFidGroup;

@@ -275,7 +275,7 @@ bool readLru825(const QString& path, Lru825Schema& schema, Lru825Document& docum
         report.warning(lineOfRoot, "Profile name has more than 255 characters");
     }
     reader.readChildren();
-    return true;
+    return source.isWhole();
 }
 
 } // namespace zul

@@ -1,8 +1,5 @@
 #include "profile/ProfileNumbers.h"
 
-#include <QStringRef>
-#include <QVector>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -46,9 +43,12 @@ double realNumber(const QString& text)
 
 void setPosition(const QString& text, std::uint32_t& byte, std::uint32_t& bit)
 {
-    const QVector<QStringRef> parts = text.splitRef(QLatin1Char('.'));
-    byte = static_cast<std::uint32_t>(decimalNumber(parts.value(0).toString()));
-    bit = static_cast<std::uint32_t>(decimalNumber(parts.value(1).toString()));
+    const QLatin1Char point('.');
+    const int first = text.indexOf(point);
+    const int second = first < 0 ? -1 : text.indexOf(point, first + 1);
+    const int bitLength = second < 0 ? -1 : second - first - 1;
+    byte = static_cast<std::uint32_t>(decimalNumber(text.left(first)));
+    bit = first < 0 ? 0 : static_cast<std::uint32_t>(decimalNumber(text.mid(first + 1, bitLength)));
 }
 
 } // namespace zul

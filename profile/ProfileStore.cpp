@@ -194,8 +194,13 @@ bool ProfileStore::loadFile(const QString& path)
 void ProfileStore::replaceProfile(ArincProfile profile)
 {
     const QString name = profile.name;
+    // Deliberate: unlike a file that is dropped for its name, one that is replaced leaves nothing
+    // behind. Loaded again and again, its parameters would be found as often.
     const auto old = m_profiles.find(name);
     if (old != m_profiles.end()) {
+        for (const auto& [enumName, enumeration] : old->second.enums) {
+            m_enumerations.erase(enumeration.enumId);
+        }
         for (const auto& [fid, group] : old->second.fids) {
             for (const auto& [serial, parameter] : group.parameters) {
                 removeFromIndex(parameter);

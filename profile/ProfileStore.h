@@ -35,8 +35,8 @@ public:
     /// Deliberate: files are opened by their bare names, so those of the other directories are read
     /// only if the working directory has files of these names too.
     void loadAll();
-    /// Reads one XML profile, which replaces one of its name. False if the file is not XML or no
-    /// reader takes it; a text profile is not XML.
+    /// Reads one XML profile, which replaces one of its name and what that had in the index. False
+    /// if the file is not XML or no reader takes it; a text profile is not XML.
     bool loadFile(const QString& path);
     /// Forgets all profiles, their enumerations, the parameter index, and what checks found.
     void unloadAll();

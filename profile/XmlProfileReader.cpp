@@ -214,7 +214,7 @@ bool readXmlProfile(const QString& path, ProfileStore& store, ArincProfile& prof
     profile.userFids.clear();
     profile.userUnits.clear();
     Reader(source, store, profile, report).read();
-    return true;
+    return source.isWhole();
 }
 
 } // namespace zul

@@ -42,9 +42,6 @@ bool XmlSource::isWellFormed()
     while (!reader.atEnd()) {
         m_text.allow(maxRun);
         reader.readNext();
-        if (reader.isDTD() && reader.text().contains(QLatin1Char('['))) {
-            return false;
-        }
         if (reader.isStartElement() && m_root.isEmpty()) {
             m_root = reader.qualifiedName().toString();
         }

@@ -22,10 +22,10 @@ public:
 
     XmlSource() : m_text(m_file) {}
 
-    /// False if the file cannot be opened, is not well-formed, has a document type with
-    /// declarations of its own (by entities or default values a short file of that kind can fill
-    /// the memory), or has more than `maxRun` bytes without a tag. Else it stands at the start of
-    /// the root element.
+    /// To be called once. False if the file cannot be opened, is not well-formed, has a document
+    /// type with a part of its own (by entities or default values a short file of that kind can
+    /// fill the memory), has a tag of more attributes than `XmlGuard` lets pass, or has more than
+    /// `maxRun` bytes without a tag. Else it stands at the start of the root element.
     bool open(const QString& path);
 
     /// Name of the root element, with its prefix if it has one.
@@ -38,6 +38,9 @@ public:
     bool isAt(const char* element) const;
     /// Goes to the end of the element whose start it stands at.
     void skip() { m_reader.skipCurrentElement(); }
+
+    /// Whether the file could be read on to where it stands; false if it has changed since `open`.
+    bool isWhole() const { return !m_reader.hasError(); }
 
     /// The attributes of the element whose start it stands at.
     QXmlStreamAttributes attributes() const { return m_reader.attributes(); }

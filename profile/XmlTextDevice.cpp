@@ -42,6 +42,8 @@ void XmlTextDevice::start()
     m_text.clear();
     m_position = 0;
     m_isFirst = true;
+    m_guard = XmlGuard();
+    m_isRefused = false;
     m_left = std::numeric_limits<qint64>::max();
     open(QIODevice::ReadOnly);
 }
@@ -52,7 +54,7 @@ void XmlTextDevice::fill()
     m_position = 0;
     m_text.clear();
     // A block may end within its first letter.
-    while (m_text.isEmpty() && !m_bytes.atEnd()) {
+    while (m_text.isEmpty() && !m_isRefused && !m_bytes.atEnd()) {
         const QByteArray block = m_bytes.read(blockSize);
         if (block.isEmpty()) {
             return; // reading failed
@@ -67,6 +69,11 @@ void XmlTextDevice::fill()
             m_isFirst = false;
         }
         m_text = text.toUtf8();
+        m_isRefused =
+            !m_guard.accept({m_text.constData(), static_cast<std::size_t>(m_text.size())});
+        if (m_isRefused) {
+            m_text.clear();
+        }
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "profile/XmlGuard.h"
+
 #include <QByteArray>
 #include <QIODevice>
 #include <QTextDecoder>
@@ -12,7 +14,8 @@ namespace zul {
 /// mark, else the one that it declares, else UTF-8.
 ///
 /// A letter that is wrongly encoded, as in a file from an editor that knows nothing of XML, costs
-/// that letter alone; `QXmlStreamReader` by itself refuses the whole file.
+/// that letter alone; `QXmlStreamReader` by itself refuses the whole file. The text ends early
+/// where `XmlGuard` refuses it, so that the reader finds it incomplete.
 class XmlTextDevice : public QIODevice
 {
 public:
@@ -42,6 +45,8 @@ private:
     qint64 m_left = 0;
     QByteArray m_text; ///< decoded, not taken yet from `m_position` on
     int m_position = 0;
+    XmlGuard m_guard;
+    bool m_isRefused = false;
     bool m_isFirst = true; ///< the declaration is still to come
 };
 

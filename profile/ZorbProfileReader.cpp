@@ -47,6 +47,7 @@ bool readZorbProfile(const QString& path, ProfileStore& store, ZorbProfile& prof
     if (!source.open(path) || source.root() != QLatin1String(zorbProfileRoot)) {
         return false;
     }
+    profile.fids.clear();
     profile.name = xmlText(source.attributes(), "name");
     std::uint32_t number = 0;
     while (source.nextChild()) {
@@ -57,7 +58,7 @@ bool readZorbProfile(const QString& path, ProfileStore& store, ZorbProfile& prof
             source.skip();
         }
     }
-    return true;
+    return source.isWhole();
 }
 
 } // namespace zul

@@ -2,6 +2,8 @@
 
 #include "profile/ProfileNumbers.h"
 
+#include <QTextDocument>
+
 namespace gui {
 
 namespace {

@@ -69,6 +69,12 @@ TEST(ProfileNumbers, PositionWithoutABitHasBitZero)
     zul::setPosition(QStringLiteral("5"), byte, bit);
     EXPECT_EQ(byte, 5U);
     EXPECT_EQ(bit, 0U);
+    zul::setPosition(QStringLiteral("1.2.3"), byte, bit);
+    EXPECT_EQ(byte, 1U);
+    EXPECT_EQ(bit, 2U);
+    zul::setPosition(QStringLiteral(".4"), byte, bit);
+    EXPECT_EQ(byte, 0U);
+    EXPECT_EQ(bit, 4U);
     zul::setPosition(QString(), byte, bit);
     EXPECT_EQ(byte, 0U);
     EXPECT_EQ(bit, 0U);
