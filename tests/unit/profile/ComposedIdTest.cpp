@@ -87,6 +87,11 @@ TEST(ComposedId, SidBeyondSevenBitsIsMaskedInAnXmlProfile)
     made.sid = 200;
     made.dfid = 300;
     EXPECT_EQ(zul::xmlProfileId(made), common(4) | (300U & 127U) << 9 | (200U & 127U) << 2);
+    made.dfid = 0xffffff80;
+    made.lcl = 0;
+    made.pvt = 0;
+    made.sid = 0;
+    EXPECT_EQ(zul::xmlProfileId(made), 4U << 26 | 20U << 19);
 }
 
 } // namespace

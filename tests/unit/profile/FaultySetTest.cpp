@@ -72,7 +72,7 @@ TEST_F(FaultySet, EveryMessageOfTheTextReaderOnce)
     expectMessages(QStringLiteral("every-message.pro"), QStringLiteral("every-message.pro.txt"));
 }
 
-TEST_F(FaultySet, EveryMessageOfTheXmlReaderOnce)
+TEST_F(FaultySet, EveryMessageOfTheXmlReaderOnceButThoseOfPositions)
 {
     load(".xml", 1);
     expectMessages(QStringLiteral("every-message.xml"), QStringLiteral("every-message.xml.txt"));
@@ -150,7 +150,7 @@ TEST_F(DemoSet, XmlProfileIsCleanAndHasEveryDataType)
     EXPECT_TRUE(hasEnumeration && hasUserUnit && hasUserFid);
 }
 
-TEST_F(DemoSet, BothFormsHaveTheSameIdentifiers)
+TEST_F(DemoSet, XmlFormHasTheIdentifiersOfTheTextForm)
 {
     load(".pro", 0);
     std::set<std::uint32_t> text;
@@ -164,7 +164,7 @@ TEST_F(DemoSet, BothFormsHaveTheSameIdentifiers)
     }
 }
 
-TEST_F(DemoSet, LruDocumentIsReadAndWrittenAsItStands)
+TEST_F(DemoSet, LruDocumentIsRead)
 {
     Lru825Schema schema;
     Lru825Document document;

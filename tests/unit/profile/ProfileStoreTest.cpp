@@ -269,9 +269,21 @@ TEST_F(Store, LoadFileReplacesAProfileOfItsNameAndKeepsTheOthers)
         EXPECT_TRUE(store.loadFile(home.file(latin1("a.xml"))));
         EXPECT_EQ(names(), QStringList({latin1("A"), latin1("B")}));
         EXPECT_EQ(store.parameterIndex().size(), 2U) << "the old one's parameters are gone";
+        EXPECT_EQ(store.enumerations().size(), 1U) << "and so are its enumerations";
         const ProfileEnum& enumeration = store.profiles().at(latin1("A")).enums.at(latin1("E"));
         EXPECT_EQ(store.enumText(enumeration.enumId, 1), latin1("1: One"));
     }
+}
+
+TEST_F(Store, LoadFileReplacesByOtherContent)
+{
+    SettingsStore::instance().setInteger(latin1("ArincProfileVersion"), 3);
+    home.write(latin1("a.xml"), "<Arinc825Profile name=\"A\" id=\"1.0\"/>");
+    home.write(latin1("b.xml"), "<Arinc825Profile name=\"A\" id=\"2.0\"/>");
+    EXPECT_TRUE(store.loadFile(home.file(latin1("a.xml"))));
+    EXPECT_TRUE(store.loadFile(home.file(latin1("b.xml"))));
+    EXPECT_EQ(store.profiles().at(latin1("A")).id, 2U);
+    EXPECT_EQ(check(), "");
 }
 
 TEST_F(Store, FunctionCodesStayThoseOfTheStandard)

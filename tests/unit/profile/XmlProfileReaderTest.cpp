@@ -240,6 +240,20 @@ TEST_F(XmlProfileReader, IdOfAServiceChannelIsPrinted)
               "Parameter id 0x1023fe0c lcc 0x4 sfid 0x4 lcl 0x1 pvt 0x1 dfid 0x7f sid 0x3\n");
 }
 
+TEST_F(XmlProfileReader, NumbersArePrintedAsTheyWereRead)
+{
+    readParameter({{"lcc", "TMC"}, {"dfid", "300"}, {"sid", "200"}, {"lcl", "0"}, {"pvt", "1"}});
+    EXPECT_EQ(output,
+              "Parameter id 0x18215920 lcc 0x6 sfid 0x4 lcl 0x0 pvt 0x1 dfid 0x12c sid 0xc8\n");
+}
+
+TEST_F(XmlProfileReader, NegativeNumbersAreOutOfRange)
+{
+    readParameter({{"lcc", "NSC"}, {"dfid", "-1"}, {"sid", "-1"}});
+    EXPECT_TRUE(profile.result.contains(QStringLiteral("DFID -1 out of range")));
+    EXPECT_TRUE(profile.result.contains(QStringLiteral("SID -1 out of range")));
+}
+
 TEST_F(XmlProfileReader, EveryChannelWithoutDocIsPrinted)
 {
     for (const char* channel : {"NSC", "UDC", "TMC", "FMC"}) {
@@ -476,8 +490,10 @@ TEST_F(XmlProfileStore, ReadsXmlForEveryVersionButZero)
     home.write(fileName, withParameters(parameterElement()));
     for (const int version : {1, 2, -1}) {
         setVersion(version);
-        ASSERT_TRUE(store.readProfile(home.file(fileName), profile));
-        EXPECT_EQ(profile.name, QStringLiteral("P"));
+        ArincProfile fresh;
+        ASSERT_TRUE(store.readProfile(home.file(fileName), fresh));
+        EXPECT_EQ(fresh.name, QStringLiteral("P")) << version;
+        EXPECT_EQ(fresh.fids.size(), 1U) << version;
     }
     setVersion(0);
     ArincProfile text;

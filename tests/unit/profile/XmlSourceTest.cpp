@@ -185,6 +185,26 @@ TEST_F(XmlSourceFile, LineIsThatOfTheDomNodeBeyondTheBlocksOfReading)
     }
 }
 
+TEST_F(XmlSourceFile, TagOfManyAttributesIsRefused)
+{
+    QByteArray tag = "<r";
+    for (int i = 0; i < 200'000; ++i) {
+        tag += " a" + QByteArray::number(i) + "=''";
+    }
+    home.write(fileName, tag + "/>");
+    EXPECT_FALSE(zul::xmlRootName(home.file(fileName)));
+}
+
+TEST_F(XmlSourceFile, ManyDeclarationsAreRefused)
+{
+    QByteArray document = "<!DOCTYPE r [";
+    for (int i = 0; i < 100'000; ++i) {
+        document += "<!ATTLIST r a" + QByteArray::number(i) + " CDATA 'x'>";
+    }
+    home.write(fileName, document + "]><r/>");
+    EXPECT_FALSE(zul::xmlRootName(home.file(fileName)));
+}
+
 TEST_F(XmlSourceFile, DeclarationWithBlanksAroundItsEqualSigns)
 {
     EXPECT_EQ(attributeOf("<?xml version = \"1.0\" encoding = \"UTF-8\"?>\n<r a=\"\xc3\xa4\"/>"),
