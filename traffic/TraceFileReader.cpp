@@ -35,20 +35,33 @@ std::size_t readBytes(QFile& file, std::uint8_t* bytes, std::size_t count)
     return readBytes(file, reinterpret_cast<char*>(bytes), count);
 }
 
-/// Makes room for what the file holds, so that nothing is moved while it is read.
-void reserveFrames(const QFile& file, TraceFrames& trace, std::size_t maxFrames)
+std::uint64_t sizeOf(const QFile& file)
 {
-    const auto size = static_cast<std::uint64_t>(std::max<qint64>(file.size(), 0));
+    return static_cast<std::uint64_t>(std::max<qint64>(file.size(), 0));
+}
+
+/// Makes room for what the file holds, so that nothing is moved while it is read.
+void reserveRecords(const QFile& file, TraceFrames& trace, std::size_t maxFrames)
+{
+    const std::uint64_t size = sizeOf(file);
     if (size > trace_layout::headerSize) {
         const std::uint64_t count = (size - trace_layout::headerSize) / trace_layout::recordSize;
         trace.frames.reserve(std::min<std::uint64_t>(count, maxFrames));
     }
 }
 
+/// The same for a text, as the lines at its beginning let expect, and some more.
+void reserveLines(const QFile& file, TraceFrames& trace, std::size_t maxFrames)
+{
+    const std::uint64_t buffers = sizeOf(file) / charactersAtOnce + 1;
+    const std::uint64_t count = (trace.frames.size() + trace.frames.size() / 8 + 1) * buffers;
+    trace.frames.reserve(std::min<std::uint64_t>(count, maxFrames));
+}
+
 void readRecords(QFile& file, TraceFrames& trace, trace_layout::Order order, std::size_t maxFrames)
 {
     using trace_layout::recordSize;
-    reserveFrames(file, trace, maxFrames);
+    reserveRecords(file, trace, maxFrames);
     std::vector<std::uint8_t> records(recordsAtOnce * recordSize);
     std::size_t count = recordsAtOnce;
     while (count == recordsAtOnce && trace.frames.size() < maxFrames) {
@@ -137,10 +150,13 @@ void readText(QFile& file, TraceFrames& trace, std::size_t maxFrames)
     std::size_t count = charactersAtOnce;
     while (count == charactersAtOnce && !lines.isFull()) {
         count = readBytes(file, text.data(), text.size());
+        const bool isFirst = trace.frames.empty();
         lines.take(text.data(), count);
+        if (isFirst) {
+            reserveLines(file, trace, maxFrames);
+        }
     }
     lines.finish();
-    trace.frames.shrink_to_fit();
 }
 
 } // namespace

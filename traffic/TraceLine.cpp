@@ -10,8 +10,7 @@
 #include "traffic/FormatBytes.h"
 #include "traffic/MessageModes.h"
 
-#include <algorithm>
-#include <cstdio>
+#include <charconv>
 #include <iterator>
 
 using zul::MessageCan;
@@ -22,14 +21,57 @@ constexpr auto decimal = static_cast<std::int32_t>(NumberType::Decimal);
 constexpr const char* errorText = "ERROR FRAME";
 constexpr const char* errorMarkup = "<b><font color=\"#AA0000\"> ERROR FRAME</font></b><br>";
 
-using SmallText = std::array<char, 64>; // more than a number with its marks takes
+using Digits = std::array<char, 16>; // more than 32 bits have, with the sign
+
+// As "%0*d", with the width.
+void appendZeroFilled(std::string& text, std::int32_t number, std::size_t width)
+{
+    Digits digits{};
+    const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    const char* begin = digits.data();
+    const auto length = static_cast<std::size_t>(end - begin);
+    if (number < 0) {
+        text += *begin++;
+    }
+    text.append(width > length ? width - length : 0, '0');
+    text.append(begin, end);
+}
+
+// As "%-*d", with the width.
+void appendLeftAligned(std::string& text, std::int32_t number, std::size_t width)
+{
+    Digits digits{};
+    const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    const auto length = static_cast<std::size_t>(end - digits.data());
+    text.append(digits.data(), length);
+    text.append(width > length ? width - length : 0, ' ');
+}
+
+// As "%0*x" or, with the letters of `alphabet`, "%0*X".
+void appendHexadecimal(std::string& text, std::uint32_t number, unsigned width,
+                       const char* alphabet)
+{
+    constexpr unsigned bitsPerDigit = 4;
+    constexpr unsigned most = 8;
+    for (unsigned digit = most; digit-- > 0;) {
+        const std::uint32_t rest = number >> bitsPerDigit * digit;
+        if (rest != 0 || digit < width) {
+            text += alphabet[rest & 0xFU];
+        }
+    }
+}
+
+constexpr const char* lowerCase = "0123456789abcdef";
+constexpr const char* upperCase = "0123456789ABCDEF";
+constexpr std::size_t decimalIdWidth = 6;
 
 void appendStart(std::string& text, const MessageCan& frame, std::uint32_t number)
 {
     constexpr int timeDecimals = 3;
-    SmallText buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%05d ", static_cast<int>(number));
-    text += buffer.data();
+    constexpr std::size_t numberWidth = 5;
+    appendZeroFilled(text, static_cast<std::int32_t>(number), numberWidth);
+    text += ' ';
+    std::array<char, 32> buffer{};
     TextWriter time(buffer.data(), buffer.size());
     time.appendTime(frame.timeStamp(), timeDecimals);
     time.append(' ');
@@ -38,15 +80,15 @@ void appendStart(std::string& text, const MessageCan& frame, std::uint32_t numbe
 
 void appendLength(std::string& text, const MessageCan& frame)
 {
-    char mark = 'D';
-    if (frame.frameType() == MessageCan::EFrameType::Remote) {
-        mark = 'R';
-    } else if (frame.frameType() != MessageCan::EFrameType::Data) {
+    if (frame.frameType() == MessageCan::EFrameType::Data) {
+        text += 'D';
+    } else if (frame.frameType() == MessageCan::EFrameType::Remote) {
+        text += 'R';
+    } else {
         return;
     }
-    SmallText buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%c%d ", mark, static_cast<int>(frame.byteCount()));
-    text += buffer.data();
+    appendLeftAligned(text, static_cast<std::int32_t>(frame.byteCount()), 0);
+    text += ' ';
 }
 
 void appendBytes(std::string& text, const MessageCan& frame, std::int32_t numberType)
@@ -64,13 +106,15 @@ void appendCanLine(std::string& text, const MessageCan& frame, std::uint32_t num
                    std::int32_t mode, std::int32_t numberType)
 {
     appendStart(text, frame, number);
-    SmallText buffer{};
     if (numberType != decimal) {
-        std::snprintf(buffer.data(), buffer.size(), "S 0x%03x ", frame.id());
+        constexpr unsigned width = 3;
+        text += "S 0x";
+        appendHexadecimal(text, frame.id(), width, lowerCase);
     } else {
-        std::snprintf(buffer.data(), buffer.size(), "S %-6d ", static_cast<int>(frame.id()));
+        text += "S ";
+        appendLeftAligned(text, static_cast<std::int32_t>(frame.id()), decimalIdWidth);
     }
-    text += buffer.data();
+    text += ' ';
     appendLength(text, frame);
     if (mode != static_cast<std::int32_t>(DisplayMode::CanAerospace)) {
         appendBytes(text, frame, numberType);
@@ -85,15 +129,14 @@ void appendProfileLine(std::string& text, const MessageCan& frame, std::uint32_t
                        std::int32_t numberType, const ProfileStore& store)
 {
     appendStart(text, frame, number);
-    const char letter = frame.mode() == MessageCan::EMsgMode::Standard ? 'S' : 'E';
-    SmallText buffer{};
+    text += frame.mode() == MessageCan::EMsgMode::Standard ? "S " : "E ";
     if (isHexadecimal(numberType)) {
-        std::snprintf(buffer.data(), buffer.size(), "%c %06X ", letter, frame.id());
+        constexpr unsigned width = 6;
+        appendHexadecimal(text, frame.id(), width, upperCase);
     } else {
-        const int id = static_cast<int>(frame.id());
-        std::snprintf(buffer.data(), buffer.size(), "%c %-6d ", letter, id);
+        appendLeftAligned(text, static_cast<std::int32_t>(frame.id()), decimalIdWidth);
     }
-    text += buffer.data();
+    text += ' ';
     appendLength(text, frame);
     const auto range = store.parameterIndex().equal_range(zul::arinc825::parameterKey(frame.id()));
     if (range.first == range.second) {

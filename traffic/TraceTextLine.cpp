@@ -1,5 +1,6 @@
 #include "traffic/TraceTextLine.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -17,13 +18,20 @@ std::string_view takePart(std::string_view& rest)
     return part;
 }
 
+constexpr bool isWhiteSpace(char character)
+{
+    return character == ' ' || (character >= '\t' && character <= '\r');
+}
+
 std::string_view trimmed(std::string_view text)
 {
-    constexpr const char* whiteSpace = "\t\n\v\f\r ";
-    const std::size_t begin = std::min(text.find_first_not_of(whiteSpace), text.size());
-    text.remove_prefix(begin);
-    const std::size_t last = text.find_last_not_of(whiteSpace);
-    return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
+    while (!text.empty() && isWhiteSpace(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isWhiteSpace(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 /// The number that the whole of `text` is; else 0.
@@ -31,6 +39,9 @@ template <typename Number>
 Number numberOf(std::string_view text)
 {
     text = trimmed(text);
+    if (text.empty()) {
+        return Number{};
+    }
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
         text.remove_prefix(1);
     }

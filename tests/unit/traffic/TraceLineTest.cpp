@@ -8,6 +8,8 @@
 #include "traffic/MessageModes.h"
 
 #include <array>
+#include <cstdio>
+#include <cstring>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -185,6 +187,30 @@ TEST_F(TraceLineTest, ProfileFormShowsTheLastParameterAlone)
     addParameter(8, "Second", 0);
     addParameter(12, "Other", 0);
     EXPECT_EQ(screenLine(traceFrame(8, 0.0), 6, 0), "00000 0.000 S 8      D0 Second = NO DATA");
+}
+
+TEST_F(TraceLineTest, NumbersAsPrintfWritesThem)
+{
+    for (const std::uint32_t number :
+         {0U, 1U, 9U, 10U, 0xFFU, 0x100U, 999U, 9999U, 99999U, 100000U, 999999U, 0xFFFFFU,
+          0x1000000U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFC19U, 0xFFFFFFF7U, 0xFFFFFFFFU}) {
+        const int asSigned = static_cast<int>(number);
+        MessageCan frame = traceFrame(number, 0.0);
+        frame.setByteCount(number);
+        std::array<char, 80> text{};
+        std::snprintf(text.data(), text.size(), "%05d 0.000 S %-6d D%d Unknown Type", asSigned,
+                      asSigned, asSigned);
+        EXPECT_EQ(screenLine(frame, 6, 0, number), text.data());
+        std::snprintf(text.data(), text.size(), "%05d 0.000 S %06X D%d Unknown Type", asSigned,
+                      number, asSigned);
+        EXPECT_EQ(screenLine(frame, 6, 1, number), text.data());
+        std::snprintf(text.data(), text.size(), "%05d 0.000 S 0x%03x D%d ", asSigned, number,
+                      asSigned);
+        EXPECT_EQ(fileLine(frame, 0, 2, number), text.data());
+        std::snprintf(text.data(), text.size(), "%05d 0.000 S %-6d D%d ", asSigned, asSigned,
+                      asSigned);
+        EXPECT_EQ(fileLine(frame, 0, 0, number).substr(0, std::strlen(text.data())), text.data());
+    }
 }
 
 } // namespace
