@@ -55,7 +55,10 @@ void reserveLines(const QFile& file, TraceFrames& trace, std::size_t maxFrames)
 {
     const std::uint64_t buffers = sizeOf(file) / charactersAtOnce + 1;
     const std::uint64_t count = (trace.frames.size() + trace.frames.size() / 8 + 1) * buffers;
-    trace.frames.reserve(std::min<std::uint64_t>(count, maxFrames));
+    try {
+        trace.frames.reserve(std::min<std::uint64_t>(count, maxFrames));
+    } catch (const std::bad_alloc&) { // it was a guess: the lines may still find room
+    }
 }
 
 void readRecords(QFile& file, TraceFrames& trace, trace_layout::Order order, std::size_t maxFrames)
