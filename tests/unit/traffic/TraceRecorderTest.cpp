@@ -2,13 +2,17 @@
 
 #include "profile/ProfileStore.h"
 #include "project/Filter.h"
+#include "tests/support/ConsoleCapture.h"
 #include "tests/support/TestHome.h"
 #include "tests/unit/traffic/TraceTestFrames.h"
+#include "traffic/TraceFileReader.h"
 
 #include <QDir>
 #include <QFile>
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace {
 
@@ -194,6 +198,65 @@ TEST_F(TraceRecorderTest, FullDiskOnlyEndsTheFilesEarly)
     EXPECT_EQ(m_recorder.recordCount(), 10000U);
     EXPECT_EQ(m_recorder.byteCount(), 280002U);
     EXPECT_TRUE(startOrStop());
+}
+
+/// No file grows beyond so many bytes while this lives; writes fail.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limited = m_before;
+        limited.rlim_cur = bytes;
+        ::setrlimit(RLIMIT_FSIZE, &limited);
+    }
+    ~FileSizeLimit()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int);
+};
+
+TEST_F(TraceRecorderTest, WhatWasWrittenBeforeAFailureStaysReadable)
+{
+    constexpr int limit = 10'000;
+    constexpr std::uint32_t half = 5000;
+    const auto record = [this](std::uint32_t first) {
+        for (std::uint32_t i = first; i < first + half; ++i) {
+            receive({traceFrame(i, i, {1, 2, 3})});
+        }
+    };
+    ASSERT_TRUE(startOrStop());
+    {
+        const FileSizeLimit noMore(limit);
+        record(0);
+    }
+    record(half); // there is room again, but it would leave a gap
+    ASSERT_TRUE(startOrStop());
+    EXPECT_EQ(m_recorder.recordCount(), 2 * half);
+    EXPECT_LE(binary().size(), limit);
+    const zul::test::ConsoleCapture console;
+    TraceFrames trace;
+    readTraceFile(m_home.file(startName + QStringLiteral(".zlb")), trace);
+    EXPECT_GT(trace.frames.size(), 100U);
+    for (std::uint32_t i = 0; i < trace.frames.size(); ++i) {
+        ASSERT_EQ(trace.frames[i].id, i);
+        ASSERT_EQ(trace.frames[i].seconds, i);
+    }
+    EXPECT_LE(ascii().size(), limit);
+    readTraceFile(m_home.file(startName + QStringLiteral(".zla")), trace);
+    EXPECT_GT(trace.frames.size(), 100U);
+    for (std::uint32_t i = 0; i + 1 < trace.frames.size(); ++i) {
+        ASSERT_EQ(trace.frames[i].id, i);
+    }
 }
 
 TEST_F(TraceRecorderTest, LineNumberGoesOnThroughTraces)
