@@ -1,5 +1,6 @@
 #include "core/TextWriter.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdio>
@@ -7,13 +8,10 @@
 namespace {
 
 constexpr std::uint32_t nanosecondsPerSecond = 1'000'000'000;
-constexpr std::uint32_t nanosecondsPerTick = 100'000; // of the last digit shown
-constexpr std::uint32_t ticksPerSecond = nanosecondsPerSecond / nanosecondsPerTick;
-constexpr std::uint32_t halfTick = nanosecondsPerTick / 2;
 // A double of wall-clock size is off by up to 240 ns, which decides how a tie is rounded.
 constexpr std::uint32_t tieMargin = 1'000;
 
-bool isNearTie(std::uint32_t rest)
+bool isNearTie(std::uint32_t rest, std::uint32_t halfTick)
 {
     return rest >= halfTick - tieMargin && rest <= halfTick + tieMargin;
 }
@@ -55,14 +53,21 @@ void TextWriter::appendHexadecimal(std::uint32_t number)
     }
 }
 
-void TextWriter::appendTime(const zul::MessageCan::TimeStamp& time)
+void TextWriter::appendTime(const zul::MessageCan::TimeStamp& time, int decimals)
 {
+    std::uint32_t ticksPerSecond = 1; // a tick is one of the last digit shown
+    for (int i = 0; i < std::clamp(decimals, 1, maxDecimals); ++i) {
+        ticksPerSecond *= 10;
+    }
+    const std::uint32_t nanosecondsPerTick = nanosecondsPerSecond / ticksPerSecond;
+    const std::uint32_t halfTick = nanosecondsPerTick / 2;
     const std::uint32_t rest = time.nanoseconds % nanosecondsPerTick;
-    if (time.nanoseconds >= nanosecondsPerSecond || isNearTie(rest)) {
+    if (time.nanoseconds >= nanosecondsPerSecond || isNearTie(rest, halfTick)) {
         std::array<char, 32> text{};
         zul::MessageCan frame; // its view in seconds is the one to round
         frame.setTimeStamp(time);
-        std::snprintf(text.data(), text.size(), "%.4f", frame.timeStampDouble());
+        std::snprintf(text.data(), text.size(), "%.*f", std::clamp(decimals, 1, maxDecimals),
+                      frame.timeStampDouble());
         append(text.data());
         return;
     }

@@ -11,6 +11,8 @@
 class TextWriter
 {
 public:
+    static constexpr int maxDecimals = 4; ///< of a time
+
     /// The text is empty at first. `capacity` counts the closing 0 and is at least 1.
     TextWriter(char* buffer, std::size_t capacity);
 
@@ -26,8 +28,9 @@ public:
     void appendDecimal(std::int64_t number);
     /// As "%X".
     void appendHexadecimal(std::uint32_t number);
-    /// As "%.4f" of `zul::MessageCan::timeStampDouble`, to the last digit.
-    void appendTime(const zul::MessageCan::TimeStamp& time);
+    /// As "%.4f" of `zul::MessageCan::timeStampDouble`, to the last digit; with `decimals`, 1 to 4,
+    /// in place of the 4.
+    void appendTime(const zul::MessageCan::TimeStamp& time, int decimals = maxDecimals);
 
 private:
     char* m_buffer;

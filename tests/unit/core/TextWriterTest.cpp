@@ -11,19 +11,19 @@ namespace {
 
 using TimeStamp = zul::MessageCan::TimeStamp;
 
-std::string timeText(const TimeStamp& time)
+std::string timeText(const TimeStamp& time, int decimals = TextWriter::maxDecimals)
 {
     std::array<char, 40> buffer{};
-    TextWriter(buffer.data(), buffer.size()).appendTime(time);
+    TextWriter(buffer.data(), buffer.size()).appendTime(time, decimals);
     return buffer.data();
 }
 
-std::string printedTime(const TimeStamp& time)
+std::string printedTime(const TimeStamp& time, int decimals = TextWriter::maxDecimals)
 {
     std::array<char, 40> buffer{};
     zul::MessageCan frame;
     frame.setTimeStamp(time);
-    std::snprintf(buffer.data(), buffer.size(), "%.4f", frame.timeStampDouble());
+    std::snprintf(buffer.data(), buffer.size(), "%.*f", decimals, frame.timeStampDouble());
     return buffer.data();
 }
 
@@ -90,6 +90,25 @@ TEST(TextWriter, TimesAsPrintfWritesThem)
         const TimeStamp time{seconds(generator) >> (i % 32), ticks(generator) * 100'000 + below};
         ASSERT_EQ(timeText(time), printedTime(time))
             << "seed " << seed << ": " << time.seconds << " s " << time.nanoseconds << " ns";
+    }
+}
+
+TEST(TextWriter, TimesWithFewerDecimalsAsPrintfWritesThem)
+{
+    constexpr unsigned seed = 826;
+    std::mt19937 generator(seed);
+    std::uniform_int_distribution<std::uint32_t> seconds(0);
+    std::uniform_int_distribution<std::uint32_t> nanoseconds(0, 999'999'999);
+    std::uniform_int_distribution<std::uint32_t> nearTie(498'900, 501'100);
+    std::uniform_int_distribution<std::uint32_t> milliseconds(0, 999);
+    for (int i = 0; i < 200'000; ++i) {
+        const TimeStamp time{seconds(generator) >> (i % 32), nanoseconds(generator)};
+        const int decimals = 1 + i % TextWriter::maxDecimals;
+        ASSERT_EQ(timeText(time, decimals), printedTime(time, decimals))
+            << "seed " << seed << ": " << time.seconds << " s " << time.nanoseconds << " ns";
+        const TimeStamp tie{time.seconds, milliseconds(generator) * 1'000'000 + nearTie(generator)};
+        ASSERT_EQ(timeText(tie, 3), printedTime(tie, 3))
+            << "seed " << seed << ": " << tie.seconds << " s " << tie.nanoseconds << " ns";
     }
 }
 
