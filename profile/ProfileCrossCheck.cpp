@@ -94,7 +94,7 @@ private:
     void append(const QString& text)
     {
         m_isClean = false;
-        appendToReport(m_report, text, maxCheckLength);
+        appendToCheck(m_report, text);
     }
 
     QString& m_report;
@@ -106,6 +106,13 @@ private:
 };
 
 } // namespace
+
+void appendToCheck(QString& check, const QString& text)
+{
+    // Not the closing line of a report: one of a profile's may stand in the middle.
+    appendToReport(check, text, maxCheckLength,
+                   "<b>Check too long. Further messages are left out.</b><br>");
+}
 
 bool crossCheck(const std::map<QString, ArincProfile>& profiles, QString& report)
 {

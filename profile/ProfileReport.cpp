@@ -8,14 +8,12 @@ namespace zul {
 
 namespace {
 
-constexpr const char* closingLine = "<b>Report too long. Further messages are left out.</b><br>";
-
 // What a message quotes of a text that somebody may have made a million letters long.
 constexpr int maxQuotedLength = 1000;
 
 } // namespace
 
-bool appendToReport(QString& report, const QString& message, int maxLength)
+bool appendToReport(QString& report, const QString& message, int maxLength, const char* closingLine)
 {
     const QLatin1String closing(closingLine);
     if (report.endsWith(closing)) {

@@ -17,9 +17,14 @@ inline constexpr const char* errorPrefix = "<b><font color=#ff0000>Error   :</b>
 /// could show it; a closing line says that more was found.
 inline constexpr int maxReportLength = 1024 * 1024;
 
-/// Appends a message to a report. False if it does not fit: the report gets a closing line, and
-/// takes nothing any more.
-bool appendToReport(QString& report, const QString& message, int maxLength = maxReportLength);
+/// Last line of a report that is full.
+inline constexpr const char* reportClosing =
+    "<b>Report too long. Further messages are left out.</b><br>";
+
+/// Appends a message to a report. False if it does not fit: the report gets the closing line, and
+/// takes nothing any more. Reports that hold others need a closing line of their own.
+bool appendToReport(QString& report, const QString& message, int maxLength = maxReportLength,
+                    const char* closingLine = reportClosing);
 
 /// The time of day as reports and text profiles tell it.
 QString reportTime();

@@ -149,9 +149,8 @@ void ProfileStore::loadArincProfile(const QString& fileName)
     }
     // Deliberate: the parameters of the profile that is dropped stay in the index.
     m_allValid = false;
-    zul::appendToReport(m_checkResult,
-                        zul::sameNameMessage(profile.fileName, found->second.fileName),
-                        zul::maxCheckLength);
+    zul::appendToCheck(m_checkResult,
+                       zul::sameNameMessage(profile.fileName, found->second.fileName));
 }
 
 void ProfileStore::loadZorbProfile(const QString& fileName)

@@ -143,6 +143,18 @@ TEST_F(Cross, NumbersAreShownAsSigned)
     EXPECT_EQ(check(), message("B.pro", "FID -1 already used by A.pro"));
 }
 
+TEST_F(Cross, FullReportOfOneProfileDoesNotSilenceTheOthers)
+{
+    ArincProfile& a = add("A", 1);
+    a.valid = false;
+    a.result = QStringLiteral("report a ") + QLatin1String(zul::reportClosing);
+    ArincProfile& b = add("B", 1);
+    b.valid = false;
+    b.result = QStringLiteral("report b ");
+    EXPECT_EQ(check(),
+              a.result + b.result + message("B.pro", "uses the same id/sub-id name as A.pro"));
+}
+
 TEST_F(Cross, ReportIsBounded)
 {
     ArincProfile& a = add("A", 1);
