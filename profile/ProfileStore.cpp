@@ -17,6 +17,7 @@
 #include <QStringBuilder>
 #include <QStringList>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -200,22 +201,22 @@ void ProfileStore::replaceProfile(ArincProfile profile)
         for (const auto& [enumName, enumeration] : old->second.enums) {
             m_enumerations.erase(enumeration.enumId);
         }
-        for (const auto& [fid, group] : old->second.fids) {
-            for (const auto& [serial, parameter] : group.parameters) {
-                removeFromIndex(parameter);
-            }
-        }
+        removeFromIndex(old->second);
     }
     m_profiles[name] = std::move(profile);
 }
 
-void ProfileStore::removeFromIndex(const ProfileParameter& parameter)
+void ProfileStore::removeFromIndex(const ArincProfile& profile)
 {
-    const auto range = m_parameterIndex.equal_range(parameter.id);
-    for (auto entry = range.first; entry != range.second; ++entry) {
-        if (entry->second.serial == parameter.serial) {
-            m_parameterIndex.erase(entry);
-            return;
+    for (const auto& [fid, group] : profile.fids) {
+        for (const auto& [serial, parameter] : group.parameters) {
+            const auto range = m_parameterIndex.equal_range(parameter.id);
+            const auto entry = std::find_if(range.first, range.second, [&parameter](const auto& e) {
+                return e.second.serial == parameter.serial;
+            });
+            if (entry != range.second) {
+                m_parameterIndex.erase(entry);
+            }
         }
     }
 }

@@ -58,6 +58,8 @@ public:
 
     /// Adds a parameter under its identifier.
     void addToIndex(const ProfileParameter& parameter);
+    /// Removes the parameters of a profile, by their serials.
+    void removeFromIndex(const ArincProfile& profile);
 
     /// The function codes of the chosen version of the standard.
     const zul::CodeTable& currentFidTable() const;
@@ -92,7 +94,6 @@ private:
     void loadArincProfile(const QString& fileName);
     void loadZorbProfile(const QString& fileName);
     void replaceProfile(ArincProfile profile);
-    void removeFromIndex(const ProfileParameter& parameter);
     void collectEnumerations();
 
     Profiles m_profiles;

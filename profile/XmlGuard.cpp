@@ -6,8 +6,9 @@ bool XmlGuard::accept(std::string_view text)
 {
     for (const char character : text) {
         take(character);
-        m_before[0] = m_before[1];
-        m_before[1] = character;
+        m_before[0] = m_isForgotten ? '\0' : m_before[1];
+        m_before[1] = m_isForgotten ? '\0' : character;
+        m_isForgotten = false;
     }
     return !m_isRefused;
 }
@@ -53,7 +54,7 @@ void XmlGuard::takeMarked(char character)
     const std::string_view mark(m_mark, m_markLength);
     if (mark == "--") {
         m_place = Place::Comment;
-        m_before[1] = '\0'; // these two do not end it
+        m_isForgotten = true; // these two do not end it
     } else if (mark == "[CDATA[") {
         m_place = Place::Cdata;
     } else if (mark == "DOCTYPE") {

@@ -31,6 +31,7 @@ private:
     char m_mark[8] = {};          ///< what stands behind "<!"
     std::size_t m_markLength = 0; ///< letters of it
     int m_attributes = 0;         ///< of the tag
+    bool m_isForgotten = false;   ///< the letters before do not count
     bool m_isRefused = false;
 };
 

@@ -214,7 +214,11 @@ bool readXmlProfile(const QString& path, ProfileStore& store, ArincProfile& prof
     profile.userFids.clear();
     profile.userUnits.clear();
     Reader(source, store, profile, report).read();
-    return source.isWhole();
+    if (!source.isWhole()) {
+        store.removeFromIndex(profile);
+        return false;
+    }
+    return true;
 }
 
 } // namespace zul

@@ -42,6 +42,7 @@ void XmlTextDevice::start()
     m_text.clear();
     m_position = 0;
     m_isFirst = true;
+    m_held.clear();
     m_guard = XmlGuard();
     m_isRefused = false;
     m_left = std::numeric_limits<qint64>::max();
@@ -59,7 +60,13 @@ void XmlTextDevice::fill()
         if (block.isEmpty()) {
             return; // reading failed
         }
-        QString text = m_decoder->toUnicode(block);
+        QString text = m_held + m_decoder->toUnicode(block);
+        m_held.clear();
+        // The other half of a letter is in the next block.
+        if (!text.isEmpty() && text.at(text.size() - 1).isHighSurrogate() && !m_bytes.atEnd()) {
+            m_held = text.right(1);
+            text.chop(1);
+        }
         if (m_isFirst) {
             const QRegularExpressionMatch declared = declaredEncoding(text);
             if (declared.hasMatch()) {

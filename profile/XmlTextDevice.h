@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QIODevice>
+#include <QString>
 #include <QTextDecoder>
 
 #include <memory>
@@ -45,6 +46,7 @@ private:
     qint64 m_left = 0;
     QByteArray m_text; ///< decoded, not taken yet from `m_position` on
     int m_position = 0;
+    QString m_held; ///< first half of a letter, decoded
     XmlGuard m_guard;
     bool m_isRefused = false;
     bool m_isFirst = true; ///< the declaration is still to come

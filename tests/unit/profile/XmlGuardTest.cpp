@@ -47,8 +47,9 @@ TEST(XmlGuard, WhatIsNoTagMayHaveAsManySigns)
 TEST(XmlGuard, TagBehindWhatIsNoTagIsCounted)
 {
     const std::string tag = "<r" + attributes(2000) + "/>";
-    for (const char* before : {"<!-- > -->", "<!---->", "<![CDATA[>]]>", "<?p > ?>", "<a b='>'>",
-                               "<!DOCTYPE r>", "<!DOCTYPE r SYSTEM 'a[b>'>", "text"}) {
+    for (const char* before :
+         {"<!-- > -->", "<!---->", "<!---> <a ' -->", "<!--> <a ' -->", "<![CDATA[>]]>", "<?p > ?>",
+          "<a b='>'>", "<!DOCTYPE r>", "<!DOCTYPE r SYSTEM 'a[b>'>", "text"}) {
         EXPECT_FALSE(accepts(before + tag)) << before;
     }
 }
@@ -60,6 +61,8 @@ TEST(XmlGuard, DocumentTypeWithAPartOfItsOwnIsRefused)
     EXPECT_FALSE(accepts("<!DOCTYPE r [<!ENTITY a 'b'>]><r/>"));
     EXPECT_FALSE(accepts("<!DOCTYPE r [<!ATTLIST r a CDATA 'b'>]><r/>"));
     EXPECT_TRUE(accepts("<r>[</r>"));
+    EXPECT_FALSE(accepts("<!---> <a '--><!DOCTYPE r [<!ENTITY a 'b'>]><r/>"));
+    EXPECT_TRUE(accepts("<!---> <!DOCTYPE r [ --><r/>"));
 }
 
 TEST(XmlGuard, TextMayComeInPieces)

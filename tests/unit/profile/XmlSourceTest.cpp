@@ -185,6 +185,22 @@ TEST_F(XmlSourceFile, LineIsThatOfTheDomNodeBeyondTheBlocksOfReading)
     }
 }
 
+TEST_F(XmlSourceFile, LetterOfTwoHalvesAcrossTheBorderOfABlock)
+{
+    constexpr int block = 64 * 1024;
+    const QString letter = QStringLiteral("\U0001F6E9");
+    for (int blanks = block / 2 - 12; blanks <= block / 2; ++blanks) {
+        const QString text = QStringLiteral("<r a='") + QString(blanks, QLatin1Char('x')) + letter +
+                             QStringLiteral("'/>");
+        QByteArray bytes("\xff\xfe");
+        bytes.append(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+        home.write(fileName, bytes);
+        zul::XmlSource read;
+        ASSERT_TRUE(read.open(home.file(fileName)));
+        EXPECT_TRUE(zul::xmlText(read.attributes(), "a").endsWith(letter)) << blanks;
+    }
+}
+
 TEST_F(XmlSourceFile, TagOfManyAttributesIsRefused)
 {
     QByteArray tag = "<r";
