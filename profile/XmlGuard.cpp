@@ -74,10 +74,11 @@ void XmlGuard::takeInTag(char character)
         m_quote = character;
     } else if (character == '>') {
         m_place = Place::Text;
-    } else if (character == '=' && ++m_attributes > maxAttributes) {
-        m_isRefused = true;
-    } else if (character == '[' && m_place == Place::Doctype) {
-        m_isRefused = true;
+    } else if (character == '=') {
+        ++m_attributes;
+        m_isRefused = m_isRefused || m_attributes > maxAttributes;
+    } else if (character == '[') {
+        m_isRefused = m_isRefused || m_place == Place::Doctype;
     }
 }
 
