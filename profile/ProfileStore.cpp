@@ -208,14 +208,16 @@ void ProfileStore::replaceProfile(ArincProfile profile)
 
 void ProfileStore::removeFromIndex(const ArincProfile& profile)
 {
-    for (const auto& [fid, group] : profile.fids) {
-        for (const auto& [serial, parameter] : group.parameters) {
+    for (const auto& group : profile.fids) {
+        for (const auto& entry : group.second.parameters) {
+            const ProfileParameter& parameter = entry.second;
             const auto range = m_parameterIndex.equal_range(parameter.id);
-            const auto entry = std::find_if(range.first, range.second, [&parameter](const auto& e) {
-                return e.second.serial == parameter.serial;
-            });
-            if (entry != range.second) {
-                m_parameterIndex.erase(entry);
+            const auto found = std::find_if(
+                range.first, range.second, [&parameter](const ParameterIndex::value_type& indexed) {
+                    return indexed.second.serial == parameter.serial;
+                });
+            if (found != range.second) {
+                m_parameterIndex.erase(found);
             }
         }
     }
