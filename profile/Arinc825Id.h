@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The 29-bit identifier of ARINC Specification 825. Every value of 32 bits has a meaning here:
+/// The 29-bit identifier of ARINC 825. Every value of 32 bits has a meaning here:
 /// nothing fails, and bits above 28 are left alone.
 namespace zul::arinc825 {
 

@@ -5,7 +5,7 @@
 
 namespace zul {
 
-/// Data types of ARINC Specification 825.
+/// Data types of ARINC 825.
 enum class ArincType : std::uint32_t {
     NoData = 0,
     Enum = 1,

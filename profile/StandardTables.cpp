@@ -13,7 +13,7 @@ struct Row
     const char* label;
 };
 
-// Function codes of ARINC Specification 825-2; what is not named is reserved.
+// Function codes of ARINC 825-2; what is not named is reserved.
 constexpr std::array<Row, 35> fids825Part2{{
     {0, "Multicast Function Code Identifier"},
     {4, "Flight State"},
@@ -52,7 +52,7 @@ constexpr std::array<Row, 35> fids825Part2{{
     {127, "Temporary Test & Maintenance"},
 }};
 
-// Function codes of ARINC Specification 825-3; what is not named is reserved.
+// Function codes of ARINC 825-3; what is not named is reserved.
 constexpr std::array<Row, 109> fids825Part3{{
     {0, "Multicast Function Code Identifier"},
     {4, "Flight State"},

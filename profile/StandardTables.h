@@ -17,13 +17,13 @@ inline constexpr std::uint32_t fidCount = 128;
 /// may define it.
 inline constexpr const char* reservedFid = "Reserved";
 
-/// The 128 function codes of ARINC Specification 825-2.
+/// The 128 function codes of ARINC 825-2.
 CodeTable makeFidTable825Part2();
 
-/// The 128 function codes of ARINC Specification 825-3.
+/// The 128 function codes of ARINC 825-3.
 CodeTable makeFidTable825Part3();
 
-/// The units of ARINC Specification 825, codes 0 to 53.
+/// The units of ARINC 825, codes 0 to 53.
 CodeTable makeUnitTable();
 
 } // namespace zul
