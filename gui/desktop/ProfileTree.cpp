@@ -74,17 +74,21 @@ void ProfileTree::addProfile(const ArincProfile& profile)
 
 void ProfileTree::slotExpanded(QTreeWidgetItem* item)
 {
-    const QVariant key = item->data(0, groupKeyRole);
-    if (!key.isValid() || item->parent() == nullptr) {
-        return;
+    if (item->data(0, groupKeyRole).isValid()) {
+        fillGroup(*item);
     }
-    item->setData(0, groupKeyRole, QVariant());
-    item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
-    const auto profile = m_profiles.find(item->parent()->data(0, profileNameRole).toString());
+}
+
+void ProfileTree::fillGroup(QTreeWidgetItem& item)
+{
+    const std::uint32_t key = item.data(0, groupKeyRole).toUInt();
+    item.setData(0, groupKeyRole, QVariant());
+    item.setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
+    const auto profile = m_profiles.find(item.parent()->data(0, profileNameRole).toString());
     if (profile == m_profiles.end()) {
         return;
     }
-    const auto group = profile->second.fids.find(key.toUInt());
+    const auto group = profile->second.fids.find(key);
     if (group == profile->second.fids.end()) {
         return;
     }
@@ -93,7 +97,7 @@ void ProfileTree::slotExpanded(QTreeWidgetItem* item)
     for (const auto& [serial, parameter] : group->second.parameters) {
         children << parameterItem(parameter);
     }
-    item->addChildren(children);
+    item.addChildren(children);
 }
 
 QTreeWidgetItem* ProfileTree::parameterItem(const ProfileParameter& parameter) const

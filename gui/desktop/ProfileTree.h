@@ -32,6 +32,7 @@ private:
     static constexpr int profileNameRole = Qt::UserRole + 1; ///< of a profile
 
     void addProfile(const ArincProfile& profile);
+    void fillGroup(QTreeWidgetItem& item);
     QTreeWidgetItem* parameterItem(const ProfileParameter& parameter) const;
 
     const Profiles& m_profiles;
