@@ -68,6 +68,16 @@ struct ArincProfile
     QString fileName;  ///< as given to the reader
     bool valid = true; ///< false once anything was reported; the profile stays usable
     QString result;    ///< report of the load, as HTML
+
+    /// Forgets header, parameters, enumerations and user codes.
+    void clearContent()
+    {
+        header.clear();
+        fids.clear();
+        enums.clear();
+        userFids.clear();
+        userUnits.clear();
+    }
 };
 
 /// A CANaerospace profile: name, chapters and file name are filled, nothing else.

@@ -2,6 +2,7 @@
 
 #include "profile/Lru825Names.h"
 #include "profile/Lru825Schema.h"
+#include "profile/ProfileChecks.h"
 #include "profile/ProfileNumbers.h"
 #include "profile/ProfileReport.h"
 #include "profile/XmlSource.h"
@@ -13,10 +14,6 @@ namespace {
 namespace attribute = lru825::attribute;
 
 using Attributes = QXmlStreamAttributes;
-
-constexpr int maxNameLength = 255;
-// Deliberate: what is wrong with the root element is reported without a line.
-constexpr int lineOfRoot = -1;
 
 double xmlReal(const Attributes& attributes, const char* name)
 {
@@ -271,9 +268,7 @@ bool readLru825(const QString& path, Lru825Schema& schema, Lru825Document& docum
     }
     Reader reader(source, schema, document);
     reader.readRoot();
-    if (document.name.size() > maxNameLength) {
-        report.warning(lineOfRoot, "Profile name has more than 255 characters");
-    }
+    checkProfileName(document.name, lineOfRoot, report);
     reader.readChildren();
     return source.isWhole();
 }

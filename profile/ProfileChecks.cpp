@@ -10,7 +10,6 @@ namespace zul {
 
 namespace {
 
-constexpr int maxTextLength = 255;
 constexpr std::uint32_t maxProfileId = 65535;
 constexpr std::uint32_t maxFid = fidCount - 1;
 constexpr std::uint32_t maxNid = 65535;
@@ -27,11 +26,16 @@ ProfileChecks::ProfileChecks(ProfileStore& store, const CodeTable& fidTable, Ari
 {
 }
 
+void checkProfileName(const QString& name, int line, ProfileReport& report)
+{
+    if (name.size() > maxProfileTextLength) {
+        report.warning(line, "Profile name has more than 255 characters");
+    }
+}
+
 void ProfileChecks::checkProfileName(int line)
 {
-    if (m_profile.name.size() > maxTextLength) {
-        m_report.warning(line, "Profile name has more than 255 characters");
-    }
+    zul::checkProfileName(m_profile.name, line, m_report);
 }
 
 void ProfileChecks::checkProfileIds(int line)
@@ -191,14 +195,14 @@ void ProfileChecks::checkPuc(int line, const ProfileParameter& parameter)
 
 void ProfileChecks::checkNme(int line, const ProfileParameter& parameter)
 {
-    if (parameter.nme.size() > maxTextLength) {
+    if (parameter.nme.size() > maxProfileTextLength) {
         m_report.warning(line, "NME has more than 255 characters");
     }
 }
 
 void ProfileChecks::checkPun(int line, const ProfileParameter& parameter)
 {
-    if (parameter.pun.size() > maxTextLength) {
+    if (parameter.pun.size() > maxProfileTextLength) {
         m_report.warning(line, "PUN has more than 255 characters");
     }
 }
@@ -233,7 +237,7 @@ void ProfileChecks::checkRci(int line, const ProfileParameter& parameter)
 
 void ProfileChecks::checkNotes(int line, const ProfileParameter& parameter)
 {
-    if (parameter.notes.size() > maxTextLength) {
+    if (parameter.notes.size() > maxProfileTextLength) {
         m_report.warning(line, "NTS has more than 255 characters");
     }
 }

@@ -12,6 +12,15 @@ class ProfileStore;
 
 namespace zul {
 
+/// Longest name, unit or note that passes without a warning, in characters.
+inline constexpr int maxProfileTextLength = 255;
+
+/// Deliberate: what is wrong with the root element of a document is reported without a line.
+inline constexpr int lineOfRoot = -1;
+
+/// Warns of the name of a profile or an LRU document that is too long.
+void checkProfileName(const QString& name, int line, ProfileReport& report);
+
 /// The rules that the readers of ARINC 825 profiles hold every statement against, and the filing of
 /// what they read. Every rule reports and goes on; nothing is rejected. The line is that of the
 /// statement in its file.

@@ -235,11 +235,7 @@ bool readTextProfile(const QString& path, ProfileStore& store, ArincProfile& pro
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         return false;
     }
-    profile.header.clear();
-    profile.fids.clear();
-    profile.enums.clear();
-    profile.userFids.clear();
-    profile.userUnits.clear();
+    profile.clearContent();
     LineSource lines(file);
     Reader reader(store, profile, report);
     QString line;

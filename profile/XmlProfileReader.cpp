@@ -17,9 +17,6 @@ namespace {
 
 namespace attribute = xmlProfile::attribute;
 
-// Deliberate: what is wrong with the root element is reported without a line.
-constexpr int lineOfRoot = -1;
-
 // MIN or MAX: a finite number, or an unsigned one of 64 bits with its base taken from its prefix;
 // other text gives 0.
 double limit(const QString& text)
@@ -208,11 +205,7 @@ bool readXmlProfile(const QString& path, ProfileStore& store, ArincProfile& prof
     if (!source.open(path) || source.root() != QLatin1String(xmlProfile::root)) {
         return false;
     }
-    profile.header.clear();
-    profile.fids.clear();
-    profile.enums.clear();
-    profile.userFids.clear();
-    profile.userUnits.clear();
+    profile.clearContent();
     Reader(source, store, profile, report).read();
     if (!source.isWhole()) {
         store.removeFromIndex(profile);
