@@ -178,14 +178,12 @@ TEST_F(TraceFileReaderTest, ForeignFilesGiveWrongFramesAndNothingElse)
 
 TEST_F(TraceFileReaderTest, HugeFileGivesNoMoreThanTheMostFrames)
 {
-    constexpr qint64 terabyte = qint64{1} << 40;
+    constexpr qint64 eightGigabytes = qint64{8} << 30; // a hole, it takes no room
     for (const char* name : {"huge.zlb", "huge.zla"}) {
         const QString path = m_home.file(QLatin1String(name));
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        if (!file.resize(terabyte)) {
-            GTEST_SKIP() << "no sparse files here";
-        }
+        ASSERT_TRUE(file.resize(eightGigabytes));
         file.close();
         EXPECT_EQ(read(path, 10'000).frames.size(), 10'000U) << name;
         QFile::remove(path);
