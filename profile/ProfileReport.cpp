@@ -3,6 +3,7 @@
 #include "core/Clock.h"
 
 #include <QDateTime>
+#include <QLocale>
 
 namespace zul {
 
@@ -30,7 +31,7 @@ bool appendToReport(QString& report, const QString& message, int maxLength, cons
 QString reportTime()
 {
     const QDateTime now = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(wallClock() * 1e3));
-    return now.toString(QStringLiteral("dd.MM.yyyy hh:mm:ss"));
+    return QLocale::c().toString(now, QStringLiteral("dd.MM.yyyy hh:mm:ss"));
 }
 
 QString reportHead(const QString& fileName)

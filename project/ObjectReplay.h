@@ -6,10 +6,10 @@
 struct ReplaySettings
 {
     bool outputOn = true;
-    std::int32_t displayMode = 0; ///< 0 CAN, 3 CANaerospace, 4 ARINC 825 Raw, 6 ARINC 825 Profile
-    std::int32_t numberType = 0;  ///< stored only
-    std::int32_t traceFormat = 0;
-    QString inputInterface = allInterfacesName();
+    std::int32_t displayMode = 0;                 ///< stored only
+    std::int32_t numberType = 0;                  ///< stored only
+    std::int32_t traceFormat = 0;                 ///< stored only
+    QString inputInterface = allInterfacesName(); ///< stored only
     QString outputInterface = allInterfacesName();
     bool autoRepeat = false;
 

@@ -6,9 +6,9 @@
 struct TraceSettings
 {
     bool inputOn = true;
-    std::int32_t displayMode = 0; ///< 0 CAN, 3 CANaerospace, 4 ARINC 825 Raw, 6 ARINC 825 Profile
+    std::int32_t displayMode = 0; ///< of the screen: 0 CAN, 3 CANaerospace, 6 ARINC 825
     std::int32_t numberType = 0;  ///< 0 decimal, 1 hexadecimal
-    std::int32_t traceFormat = 0;
+    std::int32_t traceFormat = 0; ///< of the text file: a `TraceFormat`
     QString inputInterface = allInterfacesName();
     QString outputInterface = allInterfacesName();
 

@@ -77,7 +77,7 @@ Replay::Tick Replay::tick(double now, const ReplaySettings& settings)
 void Replay::playDueFrames(const ReplaySettings& settings, MessageContainer& batch)
 {
     batch.setSrcDest(zul::toLatin1(settings.outputInterface));
-    while (!isAtEnd()) {
+    for (int played = 0; played < maxFramesPerTick && !isAtEnd(); ++played) {
         const TraceFrame& frame = m_trace.frames[m_position];
         if (!(m_elapsed > offsetOf(frame))) {
             return;

@@ -27,6 +27,10 @@ public:
     /// not keep the mode. Deliberate: that takes in 2032 to 2047, which 11 bits hold too.
     static constexpr std::uint32_t maxStoredModeId = 2031;
 
+    /// Most frames of one tick; those that are due beyond it follow at the next ones. No bus brings
+    /// forth as many, but a file that is no trace may say that all of its frames are due at once.
+    static constexpr int maxFramesPerTick = 100'000;
+
     /// Which controls can be used.
     struct Controls
     {

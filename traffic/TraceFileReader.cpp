@@ -57,7 +57,7 @@ void reserveLines(const QFile& file, TraceFrames& trace, std::size_t maxFrames)
     const std::uint64_t count = (trace.frames.size() + trace.frames.size() / 8 + 1) * buffers;
     try {
         trace.frames.reserve(std::min<std::uint64_t>(count, maxFrames));
-    } catch (const std::bad_alloc&) { // it was a guess: the lines may still find room
+    } catch (const std::exception&) { // it was a guess: the lines may still find room
     }
 }
 
@@ -167,6 +167,8 @@ void readText(QFile& file, TraceFrames& trace, std::size_t maxFrames)
 void readTraceFile(const QString& path, TraceFrames& trace, std::size_t maxFrames)
 {
     std::vector<TraceFrame>().swap(trace.frames);
+    const double firstTime = trace.firstTime;
+    const double lastTime = trace.lastTime;
     QFile file(path);
     // A pipe would make the program wait for whoever is to write it.
     if (QFileInfo(path).isFile()) {
@@ -178,7 +180,9 @@ void readTraceFile(const QString& path, TraceFrames& trace, std::size_t maxFrame
         } else {
             readBinary(file, trace, maxFrames);
         }
-    } catch (const std::bad_alloc&) {
+    } catch (const std::exception&) { // no room, or more than a vector can count
         std::vector<TraceFrame>().swap(trace.frames);
+        trace.firstTime = firstTime;
+        trace.lastTime = lastTime;
     }
 }

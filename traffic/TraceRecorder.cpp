@@ -5,6 +5,9 @@
 #include "traffic/TraceLayout.h"
 #include "traffic/TraceLine.h"
 
+#include <QLocale>
+
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -93,8 +96,22 @@ bool TraceRecorder::openFiles(const std::string& directory, double now)
 
 std::string TraceRecorder::baseNameOf(const std::string& directory, const QDateTime& start)
 {
-    const QString date = start.toString(QStringLiteral("yyyyMMdd_hhmmss_zzz"));
+    // Not in the digits of the user's language, which Latin-1 may not have.
+    const QString date = QLocale::c().toString(start, QStringLiteral("yyyyMMdd_hhmmss_zzz"));
     return directory + "/zultrace_" + zul::toLatin1(date);
+}
+
+int TraceRecorder::surplusBlocks(int blockCount, int characterCount)
+{
+    if (blockCount > maxBlocks) {
+        return blockCount - blocksAfterCut;
+    }
+    if (characterCount > maxCharacters) {
+        // As large a part of the view as is cut off from too many blocks; the newest one stays.
+        const int part = blockCount / (maxBlocks / (maxBlocks - blocksAfterCut));
+        return std::min(std::max(part, 1), blockCount - 1);
+    }
+    return 0;
 }
 
 const char* TraceRecorder::buttonText() const

@@ -28,6 +28,9 @@ public:
     /// number, so that the oldest ones go in one step.
     static constexpr int maxBlocks = 100'000;
     static constexpr int blocksAfterCut = 98'000;
+    /// Characters that the text view keeps: a day of a loaded bus, whose batches of hundreds of
+    /// lines are one block each, would take all memory before the blocks are too many.
+    static constexpr int maxCharacters = 64 * 1024 * 1024;
     /// Name of the setting that holds the directory of trace files, empty by default.
     static constexpr const char* pathSetting = "TracePath";
     static constexpr const char* failureTitle = "ZUL Warning";
@@ -58,6 +61,9 @@ public:
     ///
     /// Deliberate: an empty directory names files in the root.
     static std::string baseNameOf(const std::string& directory, const QDateTime& start);
+
+    /// How many of its oldest blocks a view of this size is to drop.
+    static int surplusBlocks(int blockCount, int characterCount);
 
     /// The view has been cleared: lines count from 0 again, also those of a running trace's file.
     void clear() { m_lineNumber = 0; }

@@ -171,6 +171,32 @@ TEST_F(ReplayTest, CopyHasAllFieldsButTheTime)
     EXPECT_EQ(frameAt(1).byteCount(), 0U);
 }
 
+TEST_F(ReplayTest, ByteCountAboveTheKeptBytesGoesOutAsStored)
+{
+    loadFrames({traceFrame(5, 3.0, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12})});
+    start();
+    tick(0.01);
+    ASSERT_EQ(m_tick.batch.size(), 1U);
+    EXPECT_EQ(frameAt(0).byteCount(), 12U);
+    EXPECT_EQ(frameAt(0).msg()[7], 8);
+    EXPECT_EQ(frameAt(0).msg()[8], 0);
+}
+
+TEST_F(ReplayTest, FramesBeyondTheMostOfOneTickFollowAtTheNext)
+{
+    constexpr int count = Replay::maxFramesPerTick + 3;
+    m_home.write(QStringLiteral("a.zla"), QByteArray(count, '\n'));
+    load(m_home.file(QStringLiteral("a.zla")));
+    start();
+    tick(0.01);
+    EXPECT_EQ(m_tick.batch.size(), 100'000U);
+    EXPECT_FALSE(m_tick.hasStopped);
+    tick(0.01);
+    EXPECT_EQ(m_tick.batch.size(), 3U);
+    EXPECT_TRUE(m_tick.hasStopped);
+    EXPECT_EQ(m_replay.sentCount(), static_cast<std::uint32_t>(count));
+}
+
 TEST_F(ReplayTest, IdentifiersAbove2031GoOutExtended)
 {
     loadFrames({traceFrame(2031, 1.0), traceFrame(2032, 1.0), traceFrame(0x80000001U, 1.0),

@@ -189,9 +189,6 @@ TEST_P(TraceContract, NoFrames)
 
 TEST_P(TraceContract, RandomFrames)
 {
-    if (GetParam().hasFreeText) {
-        return;
-    }
     constexpr unsigned seed = 4506;
     SCOPED_TRACE(seed);
     std::mt19937 generator(seed);
@@ -211,11 +208,28 @@ TEST_P(TraceContract, RandomFrames)
         frame.setChannel(draw(0xFFFFFFFFU));
         frame.setTimeStamp(MessageCan::TimeStamp{draw(0xFFFFFFFEU), draw(999'999'999)});
         for (int i = 0; i < 64; ++i) {
-            frame.msg()[i] = static_cast<std::uint8_t>(draw(255));
+            // Of letters, none that ends a line.
+            frame.msg()[i] = static_cast<std::uint8_t>(
+                GetParam().hasFreeText ? ' ' + draw('~' - ' ') : draw(255));
         }
         left.push_back(expected(frame));
     }
     expectAll(roundTrip(frames), left);
+}
+
+TEST(TraceText, LetterThatEndsALineSplitsItInTwo)
+{
+    const zul::test::TestHome home;
+    const ProfileStore store;
+    MessageCan frame = zul::test::traceFrame(300, 2.0, {1, 23, 0, 7, '\n', 0, 0, 0}); // ACHAR
+    std::string line;
+    appendTraceFileLine(line, frame, 0, 3, 0, store);
+    home.write(QStringLiteral("a.zla"), QByteArray::fromStdString(line + "\n"));
+    TraceFrames trace;
+    readTraceFile(home.file(QStringLiteral("a.zla")), trace);
+    ASSERT_EQ(trace.frames.size(), 2U);
+    EXPECT_EQ(trace.frames[0].id, 300U);
+    EXPECT_EQ(trace.frames[1].id, 0U);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllForms, TraceContract, testing::ValuesIn(forms),

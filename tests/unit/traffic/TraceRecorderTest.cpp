@@ -58,12 +58,28 @@ TEST_F(TraceRecorderTest, Constants)
 {
     EXPECT_EQ(TraceRecorder::maxBlocks, 100000);
     EXPECT_EQ(TraceRecorder::blocksAfterCut, 98000);
+    EXPECT_EQ(TraceRecorder::maxCharacters, 67'108'864);
     EXPECT_STREQ(TraceRecorder::pathSetting, "TracePath");
     EXPECT_STREQ(TraceRecorder::failureTitle, "ZUL Warning");
     EXPECT_STREQ(TraceRecorder::failureButton, "Ok");
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Stopped), 0);
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Waiting), 1);
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Active), 2);
+}
+
+TEST_F(TraceRecorderTest, ViewWithTooManyBlocksIsCut)
+{
+    EXPECT_EQ(TraceRecorder::surplusBlocks(1, 0), 0);
+    EXPECT_EQ(TraceRecorder::surplusBlocks(100'000, 67'108'864), 0);
+    EXPECT_EQ(TraceRecorder::surplusBlocks(100'001, 0), 2001);
+    EXPECT_EQ(TraceRecorder::surplusBlocks(100'500, 0), 2500);
+}
+
+TEST_F(TraceRecorderTest, ViewWithTooManyCharactersLosesTheOldestBlocks)
+{
+    EXPECT_EQ(TraceRecorder::surplusBlocks(5000, 67'108'865), 100);
+    EXPECT_EQ(TraceRecorder::surplusBlocks(49, 67'108'865), 1);
+    EXPECT_EQ(TraceRecorder::surplusBlocks(1, 67'108'865), 0) << "the newest block stays";
 }
 
 TEST_F(TraceRecorderTest, StatusTexts)
