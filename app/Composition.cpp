@@ -2,7 +2,9 @@
 
 #include "comm/CanInterface.h"
 #include "gui/traffic/DialogReceive.h"
+#include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
+#include "gui/traffic/DialogTrace.h"
 #include "project/ObjectDial.h"
 #include "project/ObjectFunctionGen.h"
 #include "project/ObjectGraph.h"
@@ -75,6 +77,16 @@ void registerWindowMakers()
                   [](Object& object, QWidget* parent) -> gui::DialogBase* {
                       auto* receive = dynamic_cast<ObjectReceive*>(&object);
                       return receive != nullptr ? new gui::DialogReceive(receive, parent) : nullptr;
+                  });
+    registerMaker(ObjectType::Trace, findObjectType(ObjectType::Trace)->title, "trace",
+                  [](Object& object, QWidget* parent) -> gui::DialogBase* {
+                      auto* trace = dynamic_cast<ObjectTrace*>(&object);
+                      return trace != nullptr ? new gui::DialogTrace(trace, parent) : nullptr;
+                  });
+    registerMaker(ObjectType::Replay, findObjectType(ObjectType::Replay)->title, "replay",
+                  [](Object& object, QWidget* parent) -> gui::DialogBase* {
+                      auto* replay = dynamic_cast<ObjectReplay*>(&object);
+                      return replay != nullptr ? new gui::DialogReplay(replay, parent) : nullptr;
                   });
 }
 

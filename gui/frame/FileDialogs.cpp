@@ -13,6 +13,7 @@ struct State
     std::optional<QString> nextFileName;
     QString lastTitle;
     QString lastFilter;
+    QString lastPath;
 };
 
 State& state()
@@ -22,30 +23,32 @@ State& state()
 }
 
 template <typename Chooser>
-QString choose(const QString& title, const QString& filter, Chooser chooser)
+QString choose(const QString& title, const QString& filter, const QString& path, Chooser chooser)
 {
     state().lastTitle = title;
     state().lastFilter = filter;
+    state().lastPath = path;
     if (state().nextFileName) {
-        QString path = *state().nextFileName;
+        QString answer = *state().nextFileName;
         state().nextFileName.reset();
-        return path;
+        return answer;
     }
     return chooser();
 }
 
 } // namespace
 
-QString FileDialogs::openFile(QWidget* parent, const QString& title, const QString& filter)
+QString FileDialogs::openFile(QWidget* parent, const QString& title, const QString& filter,
+                              const QString& path)
 {
-    return choose(title, filter,
-                  [&] { return QFileDialog::getOpenFileName(parent, title, QString(), filter); });
+    return choose(title, filter, path,
+                  [&] { return QFileDialog::getOpenFileName(parent, title, path, filter); });
 }
 
 QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QString& filter,
                               const QString& defaultSuffix)
 {
-    return choose(title, filter, [&] {
+    return choose(title, filter, QString(), [&] {
         // The static chooser knows no suffix: it would ask about one name, and another be written.
         QFileDialog dialog(parent, title, QString(), filter);
         dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -68,6 +71,11 @@ QString FileDialogs::lastTitle()
 QString FileDialogs::lastFilter()
 {
     return state().lastFilter;
+}
+
+QString FileDialogs::lastPath()
+{
+    return state().lastPath;
 }
 
 } // namespace gui

@@ -11,16 +11,19 @@ namespace gui {
 class FileDialogs
 {
 public:
-    static QString openFile(QWidget* parent, const QString& title, const QString& filter);
+    /// Starts at `path`, which may be a file; at the working directory if it is empty.
+    static QString openFile(QWidget* parent, const QString& title, const QString& filter,
+                            const QString& path = QString());
     /// A name without a point gets `defaultSuffix`. Asks before an existing file is chosen.
     static QString saveFile(QWidget* parent, const QString& title, const QString& filter,
                             const QString& defaultSuffix);
 
     /// The next chooser shows nothing and returns this; for tests.
     static void setNextFileName(const QString& path);
-    /// Title and filter of the last chooser; for tests.
+    /// Title, filter and first path of the last chooser; for tests.
     static QString lastTitle();
     static QString lastFilter();
+    static QString lastPath();
 };
 
 } // namespace gui

@@ -4,7 +4,9 @@
 #include "gui/controls/WidgetStatus.h"
 #include "gui/frame/DialogBase.h"
 #include "gui/traffic/DialogReceive.h"
+#include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
+#include "gui/traffic/DialogTrace.h"
 #include "project/Project.h"
 #include "project/WindowMakers.h"
 #include "tests/support/FixtureModules.h"
@@ -15,6 +17,7 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <set>
 
 // The program's types with the windows that the program gives them.
 
@@ -67,12 +70,24 @@ TEST_F(Composition, ReceiveObjectMakesAReceiveWindow)
     expectWindow<gui::DialogReceive>(ObjectType::Receive, "Receive Window");
 }
 
+TEST_F(Composition, TraceObjectMakesATraceWindow)
+{
+    expectWindow<gui::DialogTrace>(ObjectType::Trace, "Trace Window");
+}
+
+TEST_F(Composition, ReplayObjectMakesAReplayWindow)
+{
+    expectWindow<gui::DialogReplay>(ObjectType::Replay, "Replay Window");
+}
+
 TEST_F(Composition, EveryTypeHasAnIconAndThoseWithoutAWindowMakeNone)
 {
+    const std::set<ObjectType> withWindow{ObjectType::CanInterface, ObjectType::Receive,
+                                          ObjectType::Trace, ObjectType::Replay};
     EXPECT_EQ(m_project.types().size(), 10U);
     for (const auto& [type, info] : m_project.types()) {
         EXPECT_FALSE(info.icon.isNull()) << static_cast<int>(type);
-        if (type != ObjectType::CanInterface && type != ObjectType::Receive) {
+        if (withWindow.count(type) == 0) {
             EXPECT_EQ(windowOf(*m_project.createObject(type)), nullptr) << static_cast<int>(type);
         }
     }

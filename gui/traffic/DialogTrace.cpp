@@ -1,0 +1,311 @@
+#include "gui/traffic/DialogTrace.h"
+
+#include "core/Clock.h"
+#include "core/Latin1.h"
+#include "core/SettingsStore.h"
+#include "gui/controls/Colors.h"
+#include "gui/controls/QwtComboBox.h"
+#include "gui/controls/QwtPushButton.h"
+#include "gui/frame/MessageBoxes.h"
+#include "gui/frame/WidgetHeader.h"
+#include "message/MessageContainer.h"
+#include "profile/ProfileStore.h"
+#include "project/ObjectTrace.h"
+#include "project/Project.h"
+#include "traffic/MessageModes.h"
+#include "traffic/TraceLine.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace gui {
+
+namespace {
+
+constexpr int minimumWidthPixels = 350;
+constexpr int clearButtonHeight = 22;
+constexpr int margin = 3;
+constexpr int firstWidth = 550;
+constexpr int firstHeight = 300;
+constexpr int statusFontPixels = 10;
+constexpr int viewFontPixels = 11;
+
+QIcon icon(const char* name)
+{
+    return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
+}
+
+QFont fontOfPixels(QFont font, int pixels)
+{
+    font.setPixelSize(pixels);
+    return font;
+}
+
+} // namespace
+
+DialogTrace::DialogTrace(ObjectTrace* object, QWidget* parent)
+    : DialogBase(object, parent), m_trace(object)
+{
+    build();
+    connectControls();
+    showSettings();
+    showTraceState();
+}
+
+DialogTrace::~DialogTrace() = default;
+
+QSize DialogTrace::sizeHint() const
+{
+    return {firstWidth, firstHeight};
+}
+
+void DialogTrace::build()
+{
+    buildHeader();
+    m_status = new QLabel(this);
+    m_status->setObjectName(QStringLiteral("traceStatus"));
+    m_status->setTextFormat(Qt::RichText);
+    m_status->setFont(fontOfPixels(m_status->font(), statusFontPixels));
+    // A long path is cut off at the right instead of making the window wider.
+    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    buildView();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin);
+    layout->addWidget(m_header);
+    layout->addWidget(m_status);
+    layout->addWidget(m_view, 1);
+    buildBottom(*layout);
+    setMinimumWidth(minimumWidthPixels);
+    resize(firstWidth, firstHeight);
+}
+
+void DialogTrace::buildHeader()
+{
+    m_header = new WidgetHeader(this);
+    m_header->setMode(WidgetHeader::Mode::Input);
+    m_startStop = new QToolButton(this);
+    m_startStop->setObjectName(QStringLiteral("startStop"));
+    m_startStop->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_header->addCustomWidget(m_startStop);
+    m_recordMode = new QwtComboBox(0, this);
+    m_recordMode->setObjectName(QStringLiteral("recordMode"));
+    for (const TraceFormatText& format : traceFormats) {
+        m_recordMode->addItem(QLatin1String(format.text), static_cast<int>(format.format));
+    }
+    m_header->addCustomWidget(m_recordMode);
+    m_header->addCustomStretch();
+}
+
+void DialogTrace::buildView()
+{
+    m_view = new QPlainTextEdit(this);
+    m_view->setObjectName(QStringLiteral("traceView"));
+    QFont font(QStringLiteral("Courier"));
+    font.setStyleHint(QFont::TypeWriter);
+    m_view->setFont(fontOfPixels(font, viewFontPixels));
+    m_view->setReadOnly(true);
+    m_view->setUndoRedoEnabled(false);
+    m_view->setWordWrapMode(QTextOption::NoWrap);
+    m_view->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_view->setMaximumBlockCount(TraceRecorder::maxBlocks);
+}
+
+void DialogTrace::buildBottom(QVBoxLayout& layout)
+{
+    m_displayMode = new QwtComboBox(0, this);
+    m_displayMode->setObjectName(QStringLiteral("displayMode"));
+    for (const DisplayModeTexts& mode : displayModes) {
+        if (mode.trace != nullptr) {
+            m_displayMode->addItem(QLatin1String(mode.trace), static_cast<int>(mode.mode));
+        }
+    }
+    auto* clear = new QwtPushButton(QStringLiteral("Clear"), colors::clear, this);
+    clear->setObjectName(QStringLiteral("clear"));
+    clear->setFixedHeight(clearButtonHeight);
+    connect(clear, &QwtPushButton::clicked, this, &DialogTrace::slotClear);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(m_displayMode);
+    bottom->addStretch();
+    bottom->addWidget(clear);
+    layout.addLayout(bottom);
+}
+
+void DialogTrace::connectControls()
+{
+    connect(m_header, &WidgetHeader::signalInputOn, this, &DialogTrace::slotInputOn);
+    connect(m_header, &WidgetHeader::signalFilterOn, this, &DialogTrace::slotFilterOn);
+    connect(m_header, &WidgetHeader::signalSetup, this, &DialogTrace::slotSetup);
+    connect(m_header, &WidgetHeader::signalInputInterface, this, &DialogTrace::slotInputInterface);
+    connect(m_header, &WidgetHeader::signalOutputInterface, this,
+            &DialogTrace::slotOutputInterface);
+    connect(m_header, &WidgetHeader::signalNumberType, this, &DialogTrace::slotNumberType);
+    connect(m_startStop, &QToolButton::clicked, this, &DialogTrace::slotStartStopTrace);
+    connect(m_recordMode, QOverload<int>::of(&QwtComboBox::signalActivated), this,
+            &DialogTrace::slotRecordMode);
+    connect(m_displayMode, QOverload<int>::of(&QComboBox::activated), this,
+            &DialogTrace::slotDisplayMode);
+    connect(m_view->verticalScrollBar(), &QScrollBar::valueChanged, this, &DialogTrace::slotScroll);
+}
+
+void DialogTrace::setObject(Object* object)
+{
+    DialogBase::setObject(object);
+    m_trace = dynamic_cast<ObjectTrace*>(object);
+}
+
+void DialogTrace::receive(MessageContainer& batch)
+{
+    if (m_trace == nullptr) {
+        return;
+    }
+    const TraceRecorder::Update update =
+        m_recorder.receive(batch, m_trace->settings(), m_trace->filter(), ProfileStore::instance());
+    if (!update.isTaken) {
+        return;
+    }
+    if (update.hasLines) {
+        showLines(update.html);
+    }
+    m_header->setInputCount(m_recorder.receivedTotal());
+    showTraceState();
+}
+
+void DialogTrace::showLines(const std::string& html)
+{
+    m_view->appendHtml(zul::fromLatin1(html));
+    // One batch is one block of many lines, so blocks alone do not bound what the view keeps.
+    const int surplus =
+        TraceRecorder::surplusBlocks(m_view->blockCount(), m_view->document()->characterCount());
+    if (surplus > 0) {
+        m_view->setMaximumBlockCount(m_view->blockCount() - surplus);
+        m_view->setMaximumBlockCount(TraceRecorder::maxBlocks);
+    }
+}
+
+void DialogTrace::showTraceState()
+{
+    const bool isStopped = m_recorder.state() == TraceRecorder::State::Stopped;
+    const QLatin1String text(m_recorder.buttonText());
+    if (m_startStop->text() != text) {
+        m_startStop->setText(text);
+        m_startStop->setIcon(icon(isStopped ? "trace-start" : "trace-stop"));
+    }
+    m_status->setText(zul::fromLatin1(m_recorder.statusText()));
+}
+
+void DialogTrace::updateDialog()
+{
+    showSettings();
+}
+
+void DialogTrace::showSettings()
+{
+    if (m_trace == nullptr) {
+        return;
+    }
+    const QScopedValueRollback<bool> guard(m_updating, true);
+    const auto& settings = m_trace->settings();
+    m_header->setInputOn(settings.inputOn);
+    m_header->setFilterOn(m_trace->filter().isOn());
+    m_header->setOutputOn(false);
+    m_header->setInputInterface(settings.inputInterface);
+    m_header->setOutputInterface(settings.outputInterface);
+    m_header->setNumberType(settings.numberType);
+    // Deliberate: the record format shows its first entry, whatever the object holds.
+    m_displayMode->setData(settings.displayMode);
+}
+
+void DialogTrace::slotInputOn(bool on)
+{
+    if (!m_updating && m_trace != nullptr) {
+        m_trace->settings().inputOn = on; // Deliberate: does not mark the project as changed
+    }
+}
+
+void DialogTrace::slotFilterOn(bool on)
+{
+    if (m_trace != nullptr) {
+        m_trace->filter().setOn(on);
+        markEdited();
+    }
+}
+
+// There is no setup; the slot lets the header be wired alike in all windows.
+void DialogTrace::slotSetup() {}
+
+void DialogTrace::slotInputInterface(const QString& name)
+{
+    if (m_trace != nullptr) {
+        m_trace->settings().inputInterface = name;
+        markEdited();
+    }
+}
+
+void DialogTrace::slotOutputInterface(const QString& name)
+{
+    if (m_trace != nullptr) {
+        m_trace->settings().outputInterface = name;
+        markEdited();
+    }
+}
+
+void DialogTrace::slotStartStopTrace()
+{
+    const QString directory =
+        SettingsStore::instance().string(QLatin1String(TraceRecorder::pathSetting), QString());
+    if (!m_recorder.startOrStop(zul::toLatin1(directory), zul::wallClock())) {
+        MessageBoxes::ask(this, QMessageBox::Critical, QLatin1String(TraceRecorder::failureTitle),
+                          zul::fromLatin1(m_recorder.failureText()), {QMessageBox::Ok});
+    }
+    showTraceState();
+}
+
+void DialogTrace::slotDisplayMode(int index)
+{
+    if (!m_updating && m_trace != nullptr) {
+        m_trace->settings().displayMode = m_displayMode->itemData(index).toInt();
+        markEdited();
+    }
+}
+
+void DialogTrace::slotRecordMode(int format)
+{
+    if (!m_updating && m_trace != nullptr) {
+        m_trace->settings().traceFormat = format;
+        markEdited();
+    }
+}
+
+void DialogTrace::slotNumberType(int mode)
+{
+    if (m_trace != nullptr) {
+        m_trace->settings().numberType = mode;
+        markEdited();
+    }
+}
+
+void DialogTrace::slotClear()
+{
+    if (!m_updating) {
+        m_view->clear();
+        m_recorder.clear();
+    }
+}
+
+// The view scrolls by itself; nothing follows it.
+void DialogTrace::slotScroll(int) {}
+
+void DialogTrace::markEdited()
+{
+    if (m_trace->project() != nullptr) {
+        m_trace->project()->markEdited();
+    }
+}
+
+} // namespace gui
