@@ -1,4 +1,4 @@
-#include "gui/desktop/ProfileTree.h"
+#include "gui/controls/ProfileTree.h"
 
 #include "profile/ProfileNumbers.h"
 
