@@ -1,5 +1,6 @@
 #include "comm/BatchListeners.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace comm {
@@ -10,12 +11,21 @@ BatchListeners& BatchListeners::instance()
     return *listeners;
 }
 
-void BatchListeners::add(Listener listener)
+int BatchListeners::add(Listener listener)
 {
-    auto listeners = m_listeners != nullptr ? std::make_shared<std::vector<Listener>>(*m_listeners)
-                                            : std::make_shared<std::vector<Listener>>();
-    listeners->push_back(std::move(listener));
-    m_listeners = std::move(listeners);
+    Listeners listeners = copy();
+    listeners.emplace_back(++m_lastNumber, std::move(listener));
+    replace(std::move(listeners));
+    return m_lastNumber;
+}
+
+void BatchListeners::remove(int number)
+{
+    Listeners listeners = copy();
+    listeners.erase(std::remove_if(listeners.begin(), listeners.end(),
+                                   [=](const auto& entry) { return entry.first == number; }),
+                    listeners.end());
+    replace(std::move(listeners));
 }
 
 void BatchListeners::clear()
@@ -29,9 +39,20 @@ void BatchListeners::notify(MessageContainer& batch) const
         return;
     }
     const auto listeners = m_listeners; // one may add another
-    for (const Listener& listener : *listeners) {
-        listener(batch);
+    for (const auto& entry : *listeners) {
+        entry.second(batch);
     }
+}
+
+BatchListeners::Listeners BatchListeners::copy() const
+{
+    return m_listeners != nullptr ? *m_listeners : Listeners();
+}
+
+void BatchListeners::replace(Listeners listeners)
+{
+    m_listeners =
+        listeners.empty() ? nullptr : std::make_shared<const Listeners>(std::move(listeners));
 }
 
 } // namespace comm

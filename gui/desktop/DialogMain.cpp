@@ -11,6 +11,7 @@
 #include "gui/desktop/Geometry.h"
 #include "gui/desktop/WindowDesk.h"
 #include "gui/frame/DialogBase.h"
+#include "gui/frame/DialogSelectId.h"
 #include "gui/frame/GuiRequests.h"
 #include "gui/frame/MessageGuiAboutDialog.h"
 #include "gui/frame/MessageGuiDialog.h"
@@ -83,6 +84,7 @@ DialogMain::~DialogMain()
 {
     GuiRequests::setHandler(nullptr);
     m_desk->deleteAll();
+    DialogSelectId::destroy();
     Kernel::instance().setProject(nullptr);
     Kernel::instance().setMainWindow(nullptr);
 }
@@ -194,6 +196,9 @@ void DialogMain::buildDocks()
     m_profilePanel = new DialogProfile(m_project.profiles(), this);
     addDock("Profile", m_profilePanel);
     m_profilePanel->refresh();
+    // Made here, so that it hears the first frames.
+    connect(m_profilePanel, &DialogProfile::signalProfilesChanged, &DialogSelectId::instance(),
+            &DialogSelectId::refill);
 }
 
 void DialogMain::applyFirstGeometry()

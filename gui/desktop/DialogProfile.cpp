@@ -1,7 +1,7 @@
 #include "gui/desktop/DialogProfile.h"
 
+#include "gui/controls/ProfileTree.h"
 #include "gui/desktop/DialogProfileResult.h"
-#include "gui/desktop/ProfileTree.h"
 #include "gui/frame/FileDialogs.h"
 #include "profile/ProfileStore.h"
 

@@ -5,6 +5,7 @@
 #include "gui/controls/Colors.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
+#include "gui/frame/DialogFilter.h"
 #include "gui/frame/MessageGuiDialog.h"
 #include "gui/frame/WidgetHeader.h"
 #include "gui/traffic/ReceiveTree.h"
@@ -67,6 +68,7 @@ void DialogReceive::build()
     clear->setObjectName(QStringLiteral("clear"));
     clear->setFixedHeight(clearButtonHeight);
     connect(clear, &QwtPushButton::clicked, this, &DialogReceive::slotClear);
+    m_filterDialog = new DialogFilter(this);
     m_menu = new QMenu(this);
     connect(m_menu->addAction(QStringLiteral("Open Dial Dialog")), &QAction::triggered, this,
             &DialogReceive::slotDial);
@@ -89,6 +91,7 @@ void DialogReceive::connectControls()
 {
     connect(m_header, &WidgetHeader::signalInputOn, this, &DialogReceive::slotInputOn);
     connect(m_header, &WidgetHeader::signalFilterOn, this, &DialogReceive::slotFilterOn);
+    connect(m_header, &WidgetHeader::signalFilterSetup, this, &DialogReceive::slotFilterSetup);
     connect(m_header, &WidgetHeader::signalSetup, this, &DialogReceive::slotSetup);
     connect(m_header, &WidgetHeader::signalInputInterface, this,
             &DialogReceive::slotInputInterface);
@@ -105,6 +108,8 @@ void DialogReceive::setObject(Object* object)
 {
     DialogBase::setObject(object);
     m_receive = dynamic_cast<ObjectReceive*>(object);
+    m_filterDialog->setFilter(nullptr); // the filter was the former object's
+    m_filterDialog->hide();
 }
 
 void DialogReceive::receive(MessageContainer& batch)
@@ -170,6 +175,16 @@ void DialogReceive::slotInputOn(bool on)
 {
     if (!m_updating && m_receive != nullptr) {
         m_receive->settings().inputOn = on;
+        markEdited();
+    }
+}
+
+void DialogReceive::slotFilterSetup()
+{
+    if (!m_updating && m_receive != nullptr) {
+        m_filterDialog->setFilter(&m_receive->filter());
+        m_filterDialog->show();
+        m_filterDialog->raise();
         markEdited();
     }
 }

@@ -13,6 +13,7 @@ class WidgetHeader;
 
 namespace gui {
 
+class DialogFilter;
 class QwtComboBox;
 class ReceiveTree;
 
@@ -48,6 +49,7 @@ private slots:
     void slotDiscrete(bool trigger);
     void slotDial(bool trigger);
     void slotInputOn(bool on);
+    void slotFilterSetup();
     void slotFilterOn(bool on);
     void slotSetup();
     void slotInputInterface(const QString& name);
@@ -83,6 +85,7 @@ private:
     WidgetHeader* m_header = nullptr;
     ReceiveTree* m_tree = nullptr;
     QwtComboBox* m_displayMode = nullptr;
+    DialogFilter* m_filterDialog = nullptr;
     QMenu* m_menu = nullptr;
     QTimer* m_timer = nullptr;
 };

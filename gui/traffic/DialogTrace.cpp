@@ -6,6 +6,7 @@
 #include "gui/controls/Colors.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
+#include "gui/frame/DialogFilter.h"
 #include "gui/frame/MessageBoxes.h"
 #include "gui/frame/WidgetHeader.h"
 #include "message/MessageContainer.h"
@@ -81,6 +82,7 @@ void DialogTrace::build()
     layout->addWidget(m_status);
     layout->addWidget(m_view, 1);
     buildBottom(*layout);
+    m_filterDialog = new DialogFilter(this);
     setMinimumWidth(minimumWidthPixels);
     resize(firstWidth, firstHeight);
 }
@@ -139,6 +141,7 @@ void DialogTrace::buildBottom(QVBoxLayout& layout)
 void DialogTrace::connectControls()
 {
     connect(m_header, &WidgetHeader::signalInputOn, this, &DialogTrace::slotInputOn);
+    connect(m_header, &WidgetHeader::signalFilterSetup, this, &DialogTrace::slotFilterSetup);
     connect(m_header, &WidgetHeader::signalFilterOn, this, &DialogTrace::slotFilterOn);
     connect(m_header, &WidgetHeader::signalSetup, this, &DialogTrace::slotSetup);
     connect(m_header, &WidgetHeader::signalInputInterface, this, &DialogTrace::slotInputInterface);
@@ -157,6 +160,8 @@ void DialogTrace::setObject(Object* object)
 {
     DialogBase::setObject(object);
     m_trace = dynamic_cast<ObjectTrace*>(object);
+    m_filterDialog->setFilter(nullptr); // the filter was the former object's
+    m_filterDialog->hide();
 }
 
 void DialogTrace::receive(MessageContainer& batch)
@@ -225,6 +230,16 @@ void DialogTrace::slotInputOn(bool on)
 {
     if (!m_updating && m_trace != nullptr) {
         m_trace->settings().inputOn = on; // Deliberate: does not mark the project as changed
+    }
+}
+
+void DialogTrace::slotFilterSetup()
+{
+    if (m_trace != nullptr) {
+        m_filterDialog->setFilter(&m_trace->filter());
+        m_filterDialog->show();
+        m_filterDialog->raise();
+        markEdited();
     }
 }
 

@@ -12,6 +12,7 @@ class WidgetHeader;
 
 namespace gui {
 
+class DialogFilter;
 class QwtComboBox;
 
 /// Shows the traffic as running text, and records it to two files while a trace is active.
@@ -37,6 +38,7 @@ public slots:
 
 private slots:
     void slotInputOn(bool on);
+    void slotFilterSetup();
     void slotFilterOn(bool on);
     void slotSetup();
     void slotInputInterface(const QString& name);
@@ -69,6 +71,7 @@ private:
     QLabel* m_status = nullptr;
     QPlainTextEdit* m_view = nullptr;
     QwtComboBox* m_displayMode = nullptr;
+    DialogFilter* m_filterDialog = nullptr;
 };
 
 } // namespace gui

@@ -1,5 +1,6 @@
 #include "core/SettingsStore.h"
 #include "gui/controls/QwtComboBox.h"
+#include "gui/frame/DialogFilter.h"
 #include "gui/frame/MessageBoxes.h"
 #include "gui/frame/WidgetHeader.h"
 #include "gui/frame/WidgetInterfaceSelect.h"
@@ -16,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTest>
 #include <QToolButton>
 
@@ -213,6 +215,22 @@ TEST_F(TraceWindow, FilterDecides)
     EXPECT_EQ(lines(), QStringList{QStringLiteral("00000 1.500 S 8 D1 0-> 011")});
 }
 
+TEST_F(TraceWindow, FilterSetupEditsTheFilterWhileFramesComeIn)
+{
+    m_object->filter().setOn(true);
+    auto* filter = m_dialog->findChild<gui::DialogFilter*>();
+    EXPECT_FALSE(filter->isVisible());
+    click("filterSetup");
+    EXPECT_TRUE(filter->isVisible());
+    EXPECT_FALSE(filter->isModal());
+    EXPECT_TRUE(m_project.isEdited());
+    feed(batchOf({7}));
+    EXPECT_EQ(lines().size(), 1);
+    filter->findChild<QSpinBox*>(QStringLiteral("minId"))->setValue(8);
+    feed(batchOf({7, 8}));
+    EXPECT_EQ(lines().size(), 2);
+}
+
 TEST_F(TraceWindow, TraceWritesBothFilesAndTellsSo)
 {
     click("startStop");
@@ -382,7 +400,8 @@ TEST_F(TraceWindow, WindowWithoutAnObjectDoesNothing)
     m_project.deleteObject(m_object->id());
     ASSERT_EQ(m_dialog->object(), nullptr);
     feed(batchOf({7}));
-    for (const char* name : {"inputSwitch", "filterSwitch", "numberFormat", "clear"}) {
+    for (const char* name :
+         {"inputSwitch", "filterSwitch", "filterSetup", "numberFormat", "clear"}) {
         click(name);
     }
     choose("displayMode", 1);

@@ -1,4 +1,4 @@
-#include "gui/desktop/ProfileTree.h"
+#include "gui/controls/ProfileTree.h"
 
 #include "profile/ProfileNumbers.h"
 
@@ -42,9 +42,15 @@ ProfileTree::ProfileTree(const Profiles& profiles, QWidget* parent)
       m_parameterIcon(icon("parameter"))
 {
     setHeaderHidden(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
     setUniformRowHeights(true);
     setMinimumHeight(leastHeight); // three docks share the height of a small screen
     connect(this, &QTreeWidget::itemExpanded, this, &ProfileTree::slotExpanded);
+}
+
+const ProfileParameter* ProfileTree::parameter(const QTreeWidgetItem& item)
+{
+    return static_cast<const ProfileParameter*>(item.data(0, parameterRole).value<void*>());
 }
 
 void ProfileTree::refill()
@@ -105,6 +111,10 @@ QTreeWidgetItem* ProfileTree::parameterItem(const ProfileParameter& parameter) c
     auto* item = new QTreeWidgetItem({parameterText(parameter)});
     item->setIcon(0, m_parameterIcon);
     item->setToolTip(0, parameterToolTip(parameter));
+    item->setData(0, identifierRole, parameter.id);
+    // As a variant holds it; nobody writes through it.
+    item->setData(0, parameterRole,
+                  QVariant::fromValue<void*>(const_cast<ProfileParameter*>(&parameter)));
     return item;
 }
 
