@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
+#include <cstring>
 
 namespace {
 
@@ -16,6 +17,22 @@ bool isNearTie(std::uint32_t rest, std::uint32_t halfTick)
     return rest >= halfTick - tieMargin && rest <= halfTick + tieMargin;
 }
 
+/// A number as "%d".
+class Digits
+{
+public:
+    explicit Digits(std::int64_t number)
+        : m_end(std::to_chars(m_text.data(), m_text.data() + m_text.size(), number).ptr)
+    {
+    }
+    const char* begin() const { return m_text.data(); }
+    int length() const { return static_cast<int>(m_end - m_text.data()); }
+
+private:
+    std::array<char, 24> m_text; // 64 bits have 19 digits, and there may be a sign
+    const char* m_end;
+};
+
 } // namespace
 
 TextWriter::TextWriter(char* buffer, std::size_t capacity) : m_buffer(buffer), m_capacity(capacity)
@@ -25,16 +42,43 @@ TextWriter::TextWriter(char* buffer, std::size_t capacity) : m_buffer(buffer), m
 
 void TextWriter::append(const char* text)
 {
-    for (; *text != '\0'; ++text) {
-        append(*text);
+    append(text, std::strlen(text));
+}
+
+void TextWriter::append(const char* text, std::size_t length)
+{
+    const std::size_t fitting = std::min(length, m_capacity - 1 - m_length);
+    std::memcpy(m_buffer + m_length, text, fitting);
+    m_length += fitting;
+    m_buffer[m_length] = '\0';
+}
+
+void TextWriter::fill(char character, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        append(character);
     }
 }
 
 void TextWriter::appendDecimal(std::int64_t number)
 {
-    std::array<char, 24> digits{};
-    std::to_chars(digits.data(), digits.data() + digits.size() - 1, number);
-    append(digits.data());
+    appendLeftAligned(number, 0);
+}
+
+void TextWriter::appendZeroFilled(std::int64_t number, int width)
+{
+    const Digits digits(number);
+    const int sign = number < 0 ? 1 : 0;
+    append(digits.begin(), static_cast<std::size_t>(sign));
+    fill('0', width - digits.length());
+    append(digits.begin() + sign, static_cast<std::size_t>(digits.length() - sign));
+}
+
+void TextWriter::appendLeftAligned(std::int64_t number, int width)
+{
+    const Digits digits(number);
+    append(digits.begin(), static_cast<std::size_t>(digits.length()));
+    fill(' ', width - digits.length());
 }
 
 void TextWriter::appendHexadecimal(std::uint32_t number)

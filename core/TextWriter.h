@@ -26,13 +26,23 @@ public:
     void append(const char* text);
     /// As "%d".
     void appendDecimal(std::int64_t number);
+    /// As "%0*d", with a width of up to 20.
+    void appendZeroFilled(std::int64_t number, int width);
+    /// As "%-*d".
+    void appendLeftAligned(std::int64_t number, int width);
     /// As "%X".
     void appendHexadecimal(std::uint32_t number);
     /// As "%.4f" of `zul::MessageCan::timeStampDouble`, to the last digit; with `decimals`, 1 to 4,
     /// in place of the 4.
     void appendTime(const zul::MessageCan::TimeStamp& time, int decimals = maxDecimals);
 
+    /// Characters so far, without the closing 0.
+    std::size_t length() const { return m_length; }
+
 private:
+    void append(const char* text, std::size_t length);
+    void fill(char character, int count);
+
     char* m_buffer;
     std::size_t m_capacity;
     std::size_t m_length = 0;

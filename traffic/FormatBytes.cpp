@@ -1,30 +1,75 @@
 #include "traffic/FormatBytes.h"
 
-#include "core/TextWriter.h"
-
 #include <algorithm>
+#include <array>
+#include <cstring>
 
 namespace {
 
-std::int64_t bytesInLine(const zul::MessageCan& frame, int offset)
+constexpr std::size_t cellSize = 4; // of one byte's text with the blank behind it
+constexpr int byteValues = 256;
+
+/// What each byte looks like, a blank behind it.
+using Cells = std::array<std::array<char, cellSize>, byteValues>;
+
+constexpr Cells decimalCells()
+{
+    Cells cells{};
+    for (std::size_t byte = 0; byte < cells.size(); ++byte) {
+        cells[byte] = {static_cast<char>('0' + byte / 100), static_cast<char>('0' + byte / 10 % 10),
+                       static_cast<char>('0' + byte % 10), ' '};
+    }
+    return cells;
+}
+
+constexpr Cells hexadecimalCells()
+{
+    constexpr const char* digits = "0123456789abcdef";
+    Cells cells{};
+    for (std::size_t byte = 0; byte < cells.size(); ++byte) {
+        cells[byte] = {'$', digits[byte / 16], digits[byte % 16], ' '};
+    }
+    return cells;
+}
+
+constexpr Cells decimals = decimalCells();
+constexpr Cells hexadecimals = hexadecimalCells();
+
+int bytesInLine(const zul::MessageCan& frame, int offset)
 {
     if (offset < 0 || offset >= zul::MessageData::size) {
         return 0;
     }
     const std::int64_t left = static_cast<std::int64_t>(frame.byteCount()) - offset;
-    return std::min<std::int64_t>(left, bytesPerLine);
+    return static_cast<int>(std::min<std::int64_t>(left, bytesPerLine));
 }
 
-// As " %2d-> ".
-void appendOffset(TextWriter& line, int offset)
+/// A line before it is cut to the room that the caller has.
+using Line = std::array<char, payloadLineCapacity>;
+
+// As " %2d-> ", and the bytes; returns the end.
+char* writeLine(Line& line, const zul::MessageCan& frame, int offset, int count, const Cells& cells)
 {
     constexpr int twoDigits = 10;
-    line.append(' ');
-    if (offset >= 0 && offset < twoDigits) {
-        line.append(' ');
+    char* end = line.data();
+    *end++ = ' ';
+    *end++ = offset < twoDigits ? ' ' : static_cast<char>('0' + offset / 10);
+    *end++ = static_cast<char>('0' + offset % 10);
+    std::memcpy(end, "-> ", 3);
+    end += 3;
+    const zul::MessageData& bytes = frame.msg();
+    for (int i = 0; i < count; ++i) {
+        std::memcpy(end, cells[bytes[offset + i]].data(), cellSize);
+        end += cellSize;
     }
-    line.appendDecimal(offset);
-    line.append("-> ");
+    return end;
+}
+
+void copyLine(char* buffer, std::size_t capacity, const Line& line, const char* end)
+{
+    const std::size_t length = std::min(static_cast<std::size_t>(end - line.data()), capacity - 1);
+    std::memcpy(buffer, line.data(), length);
+    buffer[length] = '\0';
 }
 
 } // namespace
@@ -35,22 +80,13 @@ int formatBytesDec(char* buffer, std::size_t capacity, const zul::MessageCan& fr
         return 0;
     }
     buffer[0] = '\0';
-    const std::int64_t count = bytesInLine(frame, offset);
+    const int count = bytesInLine(frame, offset);
     if (count < 1) {
         return 0;
     }
-    TextWriter line(buffer, capacity);
-    appendOffset(line, offset);
-    const zul::MessageData& bytes = frame.msg();
-    for (int i = 0; i < count; ++i) {
-        const int byte = bytes[offset + i];
-        line.append(static_cast<char>('0' + byte / 100));
-        line.append(static_cast<char>('0' + byte / 10 % 10));
-        line.append(static_cast<char>('0' + byte % 10));
-        if (i + 1 < count) {
-            line.append(' ');
-        }
-    }
+    Line line{};
+    const char* end = writeLine(line, frame, offset, count, decimals);
+    copyLine(buffer, capacity, line, end - 1); // without the last byte's blank
     return 0;
 }
 
@@ -60,23 +96,13 @@ int formatBytesHex(char* buffer, std::size_t capacity, const zul::MessageCan& fr
         return 0;
     }
     buffer[0] = '\0';
-    const std::int64_t count = bytesInLine(frame, offset);
+    const int count = bytesInLine(frame, offset);
     if (count < 1) {
         return 0;
     }
-    constexpr const char* digits = "0123456789abcdef";
-    const std::int64_t lastIndex = static_cast<std::int64_t>(frame.byteCount()) - 1;
-    TextWriter line(buffer, capacity);
-    appendOffset(line, offset);
-    const zul::MessageData& bytes = frame.msg();
-    for (int i = 0; i < count; ++i) {
-        const unsigned byte = bytes[offset + i];
-        line.append('$');
-        line.append(digits[byte >> 4U]);
-        line.append(digits[byte & 0xFU]);
-        if (i != lastIndex) {
-            line.append(' ');
-        }
-    }
+    Line line{};
+    const char* end = writeLine(line, frame, offset, count, hexadecimals);
+    const bool endsWithFrame = static_cast<std::uint32_t>(count) == frame.byteCount();
+    copyLine(buffer, capacity, line, endsWithFrame ? end - 1 : end);
     return 0;
 }

@@ -10,7 +10,7 @@
 #include "traffic/FormatBytes.h"
 #include "traffic/MessageModes.h"
 
-#include <charconv>
+#include <array>
 #include <iterator>
 
 using zul::MessageCan;
@@ -21,79 +21,61 @@ constexpr auto decimal = static_cast<std::int32_t>(NumberType::Decimal);
 constexpr const char* errorText = "ERROR FRAME";
 constexpr const char* errorMarkup = "<b><font color=\"#AA0000\"> ERROR FRAME</font></b><br>";
 
-using Digits = std::array<char, 16>; // more than 32 bits have, with the sign
-
-// As "%0*d", with the width.
-void appendZeroFilled(std::string& text, std::int32_t number, std::size_t width)
-{
-    Digits digits{};
-    const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    const char* begin = digits.data();
-    const auto length = static_cast<std::size_t>(end - begin);
-    if (number < 0) {
-        text += *begin++;
-    }
-    text.append(width > length ? width - length : 0, '0');
-    text.append(begin, end);
-}
-
-// As "%-*d", with the width.
-void appendLeftAligned(std::string& text, std::int32_t number, std::size_t width)
-{
-    Digits digits{};
-    const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    const auto length = static_cast<std::size_t>(end - digits.data());
-    text.append(digits.data(), length);
-    text.append(width > length ? width - length : 0, ' ');
-}
-
 // As "%0*x" or, with the letters of `alphabet`, "%0*X".
-void appendHexadecimal(std::string& text, std::uint32_t number, unsigned width,
-                       const char* alphabet)
+void appendHexadecimal(TextWriter& text, std::uint32_t number, unsigned width, const char* alphabet)
 {
     constexpr unsigned bitsPerDigit = 4;
     constexpr unsigned most = 8;
     for (unsigned digit = most; digit-- > 0;) {
         const std::uint32_t rest = number >> bitsPerDigit * digit;
         if (rest != 0 || digit < width) {
-            text += alphabet[rest & 0xFU];
+            text.append(alphabet[rest & 0xFU]);
         }
     }
 }
 
 constexpr const char* lowerCase = "0123456789abcdef";
 constexpr const char* upperCase = "0123456789ABCDEF";
-constexpr std::size_t decimalIdWidth = 6;
+constexpr int decimalIdWidth = 6;
+
+/// What stands before the payload: at most 5 numbers of 32 bits.
+using Prefix = std::array<char, 96>;
+
+void appendStart(TextWriter& text, const MessageCan& frame, std::uint32_t number)
+{
+    constexpr int timeDecimals = 3;
+    constexpr int numberWidth = 5;
+    text.appendZeroFilled(static_cast<std::int32_t>(number), numberWidth);
+    text.append(' ');
+    text.appendTime(frame.timeStamp(), timeDecimals);
+    text.append(' ');
+}
 
 void appendStart(std::string& text, const MessageCan& frame, std::uint32_t number)
 {
-    constexpr int timeDecimals = 3;
-    constexpr std::size_t numberWidth = 5;
-    appendZeroFilled(text, static_cast<std::int32_t>(number), numberWidth);
-    text += ' ';
-    std::array<char, 32> buffer{};
-    TextWriter time(buffer.data(), buffer.size());
-    time.appendTime(frame.timeStamp(), timeDecimals);
-    time.append(' ');
-    text += buffer.data();
+    Prefix buffer;
+    TextWriter start(buffer.data(), buffer.size());
+    appendStart(start, frame, number);
+    text.append(buffer.data(), start.length());
 }
 
-void appendLength(std::string& text, const MessageCan& frame)
+void appendLength(TextWriter& text, const MessageCan& frame)
 {
     if (frame.frameType() == MessageCan::EFrameType::Data) {
-        text += 'D';
+        text.append('D');
     } else if (frame.frameType() == MessageCan::EFrameType::Remote) {
-        text += 'R';
+        text.append('R');
     } else {
         return;
     }
-    appendLeftAligned(text, static_cast<std::int32_t>(frame.byteCount()), 0);
-    text += ' ';
+    text.appendDecimal(static_cast<std::int32_t>(frame.byteCount()));
+    text.append(' ');
 }
 
 void appendBytes(std::string& text, const MessageCan& frame, std::int32_t numberType)
 {
-    std::array<char, payloadLineCapacity> buffer{};
+    std::array<char, payloadLineCapacity> buffer;
+    buffer[0] = '\0';
     if (numberType == decimal) {
         formatBytesDec(buffer.data(), buffer.size(), frame, 0);
     } else if (isHexadecimal(numberType)) {
@@ -105,17 +87,20 @@ void appendBytes(std::string& text, const MessageCan& frame, std::int32_t number
 void appendCanLine(std::string& text, const MessageCan& frame, std::uint32_t number,
                    std::int32_t mode, std::int32_t numberType)
 {
-    appendStart(text, frame, number);
+    Prefix buffer;
+    TextWriter prefix(buffer.data(), buffer.size());
+    appendStart(prefix, frame, number);
     if (numberType != decimal) {
         constexpr unsigned width = 3;
-        text += "S 0x";
-        appendHexadecimal(text, frame.id(), width, lowerCase);
+        prefix.append("S 0x");
+        appendHexadecimal(prefix, frame.id(), width, lowerCase);
     } else {
-        text += "S ";
-        appendLeftAligned(text, static_cast<std::int32_t>(frame.id()), decimalIdWidth);
+        prefix.append("S ");
+        prefix.appendLeftAligned(static_cast<std::int32_t>(frame.id()), decimalIdWidth);
     }
-    text += ' ';
-    appendLength(text, frame);
+    prefix.append(' ');
+    appendLength(prefix, frame);
+    text.append(buffer.data(), prefix.length());
     if (mode != static_cast<std::int32_t>(DisplayMode::CanAerospace)) {
         appendBytes(text, frame, numberType);
         return;
@@ -128,16 +113,19 @@ void appendCanLine(std::string& text, const MessageCan& frame, std::uint32_t num
 void appendProfileLine(std::string& text, const MessageCan& frame, std::uint32_t number,
                        std::int32_t numberType, const ProfileStore& store)
 {
-    appendStart(text, frame, number);
-    text += frame.mode() == MessageCan::EMsgMode::Standard ? "S " : "E ";
+    Prefix buffer;
+    TextWriter prefix(buffer.data(), buffer.size());
+    appendStart(prefix, frame, number);
+    prefix.append(frame.mode() == MessageCan::EMsgMode::Standard ? "S " : "E ");
     if (isHexadecimal(numberType)) {
         constexpr unsigned width = 6;
-        appendHexadecimal(text, frame.id(), width, upperCase);
+        appendHexadecimal(prefix, frame.id(), width, upperCase);
     } else {
-        appendLeftAligned(text, static_cast<std::int32_t>(frame.id()), decimalIdWidth);
+        prefix.appendLeftAligned(static_cast<std::int32_t>(frame.id()), decimalIdWidth);
     }
-    text += ' ';
-    appendLength(text, frame);
+    prefix.append(' ');
+    appendLength(prefix, frame);
+    text.append(buffer.data(), prefix.length());
     const auto range = store.parameterIndex().equal_range(zul::arinc825::parameterKey(frame.id()));
     if (range.first == range.second) {
         text += "Unknown Type";
@@ -191,4 +179,9 @@ void appendTraceScreenLine(std::string& text, const MessageCan& frame, std::uint
         return;
     }
     appendLine(text, frame, number, displayMode, numberType, store);
+}
+
+bool areTraceLinesAlike(const MessageCan& frame, std::int32_t displayMode, std::int32_t traceFormat)
+{
+    return displayMode == traceFormat && frame.frameType() != MessageCan::EFrameType::Error;
 }

@@ -49,3 +49,7 @@ void appendTraceFileLine(std::string& text, const zul::MessageCan& frame, std::u
 void appendTraceScreenLine(std::string& text, const zul::MessageCan& frame, std::uint32_t number,
                            std::int32_t displayMode, std::int32_t numberType,
                            const ProfileStore& store);
+
+/// Whether the line of a frame in the ASCII file is that on the screen, letter by letter.
+bool areTraceLinesAlike(const zul::MessageCan& frame, std::int32_t displayMode,
+                        std::int32_t traceFormat);

@@ -59,12 +59,17 @@ TraceRecorder::Update TraceRecorder::receive(const MessageContainer& batch,
 void TraceRecorder::takeFrame(const MessageCan& frame, const TraceSettings& settings,
                               const ProfileStore& store, std::string& html)
 {
+    const std::size_t start = html.size();
     appendTraceScreenLine(html, frame, m_lineNumber, settings.displayMode, settings.numberType,
                           store);
     if (m_state == State::Active && m_files.isOpen()) {
-        m_line.clear();
-        appendTraceFileLine(m_line, frame, m_lineNumber, settings.traceFormat, settings.numberType,
-                            store);
+        if (areTraceLinesAlike(frame, settings.displayMode, settings.traceFormat)) {
+            m_line.assign(html, start);
+        } else {
+            m_line.clear();
+            appendTraceFileLine(m_line, frame, m_lineNumber, settings.traceFormat,
+                                settings.numberType, store);
+        }
         m_files.write(frame, m_line);
         ++m_recordCount;
         m_byteCount += trace_layout::recordSize;
