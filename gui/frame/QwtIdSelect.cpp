@@ -57,13 +57,14 @@ void QwtIdSelect::setId(int id)
 void QwtIdSelect::slotSelect()
 {
     const QPointer<QwtIdSelect> self(this);
-    const QPointer<DialogSelectId> dialog(&DialogSelectId::instance());
+    DialogSelectId& dialog = DialogSelectId::instance();
+    const QPointer<DialogSelectId> open(&dialog);
     // Frames go on coming meanwhile, and a window may go.
-    if (dialog->choose(window()) != QDialog::Accepted || self == nullptr || dialog == nullptr) {
+    if (dialog.choose(window()) != QDialog::Accepted || self == nullptr || open == nullptr) {
         return;
     }
-    m_parameter = dialog->chosenParameter();
-    setId(shownId(dialog->chosenId()));
+    m_parameter = dialog.chosenParameter();
+    setId(shownId(dialog.chosenId()));
     emit signalId(m_id);
     emit signalParameter(m_parameter);
     emit signalSelect();
