@@ -4,6 +4,7 @@
 //   bench_program [SCENARIO [SECONDS [INTERFACES]]]      3 or 4, 20, 8
 
 #include "app/Composition.h"
+#include "bench/Distribution.h"
 #include "bench/SequenceCheck.h"
 #include "comm/BatchListeners.h"
 #include "comm/CanInterface.h"
@@ -20,11 +21,9 @@
 #include <QMdiArea>
 #include <QTimer>
 
-#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <map>
 #include <vector>
 
@@ -39,28 +38,6 @@ struct Options
     double seconds = 20.0;
     int interfaces = 8;
 };
-
-double processorMs(clockid_t clock)
-{
-    timespec time{};
-    clock_gettime(clock, &time);
-    return static_cast<double>(time.tv_sec) * millisecondsPerSecond +
-           static_cast<double>(time.tv_nsec) * 1e-6;
-}
-
-void printDistribution(const char* title, std::vector<double> values)
-{
-    if (values.empty()) {
-        return;
-    }
-    std::sort(values.begin(), values.end());
-    const auto percentile = [&values](double share) {
-        const auto last = static_cast<double>(values.size() - 1);
-        return values[static_cast<std::size_t>(share * last + 0.5)];
-    };
-    std::printf("%-40s %9.2f %9.2f %9.2f\n", title, percentile(0.5), percentile(0.99),
-                values.back());
-}
 
 /// A project of saturated interfaces with a window on each, driven as the main window does it.
 class Load : public QObject
@@ -105,8 +82,8 @@ public:
             }
         }
         m_clock.start();
-        m_processAtStart = processorMs(CLOCK_PROCESS_CPUTIME_ID);
-        m_mainThreadAtStart = processorMs(CLOCK_THREAD_CPUTIME_ID);
+        m_processAtStart = bench::processorMs(CLOCK_PROCESS_CPUTIME_ID);
+        m_mainThreadAtStart = bench::processorMs(CLOCK_THREAD_CPUTIME_ID);
         m_heartbeat.start(gui::DialogMain::firstTickMs);
         return true;
     }
@@ -152,10 +129,10 @@ private:
             m_distances.push_back(now - m_lastTick);
         }
         m_lastTick = now;
-        const double processorBefore = processorMs(CLOCK_THREAD_CPUTIME_ID);
+        const double processorBefore = bench::processorMs(CLOCK_THREAD_CPUTIME_ID);
         m_project.poll();
         m_work.push_back(elapsedMs() - now);
-        m_processorWork.push_back(processorMs(CLOCK_THREAD_CPUTIME_ID) - processorBefore);
+        m_processorWork.push_back(bench::processorMs(CLOCK_THREAD_CPUTIME_ID) - processorBefore);
         if (now >= m_options.seconds * millisecondsPerSecond) {
             finish();
         } else {
@@ -166,8 +143,8 @@ private:
     void finish()
     {
         m_wallMs = elapsedMs();
-        m_processMs = processorMs(CLOCK_PROCESS_CPUTIME_ID) - m_processAtStart;
-        m_mainThreadMs = processorMs(CLOCK_THREAD_CPUTIME_ID) - m_mainThreadAtStart;
+        m_processMs = bench::processorMs(CLOCK_PROCESS_CPUTIME_ID) - m_processAtStart;
+        m_mainThreadMs = bench::processorMs(CLOCK_THREAD_CPUTIME_ID) - m_mainThreadAtStart;
         for (comm::CanInterface* interface : m_interfaces) {
             interface->disconnect();
         }
@@ -220,9 +197,9 @@ bool Load::report() const
                 static_cast<double>(frames) / m_wallMs * millisecondsPerSecond,
                 missing == 0 ? "none lost" : "FRAMES LOST");
     std::printf("%-40s %9s %9s %9s\n", "Milliseconds", "50 %", "99 %", "most");
-    printDistribution("work of a tick", m_work);
-    printDistribution("processor time of a tick's work", m_processorWork);
-    printDistribution("from one tick's start to the next's", m_distances);
+    bench::printDistribution("work of a tick", m_work);
+    bench::printDistribution("processor time of a tick's work", m_processorWork);
+    bench::printDistribution("from one tick's start to the next's", m_distances);
     std::printf("%zu ticks; processor: process %.1f %%, main thread %.1f %% of one\n",
                 m_work.size(), m_processMs / m_wallMs * 100.0, m_mainThreadMs / m_wallMs * 100.0);
     return missing == 0;
