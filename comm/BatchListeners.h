@@ -9,8 +9,7 @@ class MessageContainer;
 
 namespace comm {
 
-/// Listeners that get every batch of every interface, beside the wired objects. A listener
-/// registers once and stays.
+/// Listeners that get every batch of every interface, beside the wired objects.
 class BatchListeners
 {
 public:

@@ -12,7 +12,8 @@ const std::vector<std::uint32_t>& ActiveIdentifiers::update(const MessageContain
     m_added.clear();
     for (const auto& message : batch.messages()) {
         const auto* frame = message_cast<zul::MessageCan>(message.get());
-        if (frame != nullptr && m_index.findOrAdd(frame->id(), m_count) == m_count) {
+        if (frame != nullptr && m_count < maxIdentifiers &&
+            m_index.findOrAdd(frame->id(), m_count) == m_count) {
             ++m_count;
             m_added.push_back(frame->id());
         }

@@ -15,8 +15,12 @@ class MessageContainer;
 class ActiveIdentifiers
 {
 public:
+    /// Most identifiers that are kept: a bus with random ones would take all memory otherwise.
+    static constexpr int maxIdentifiers = 100'000;
+
     /// Takes the frames of a batch, whatever their type. Gives the identifiers that were not listed
-    /// before, in the order of their first frames; the next call changes what was given.
+    /// before, in the order of their first frames, and none beyond `maxIdentifiers`; the next call
+    /// changes what was given.
     const std::vector<std::uint32_t>& update(const MessageContainer& batch);
     void clear();
 

@@ -124,5 +124,7 @@ int Replay::sliderPosition() const
     if (!std::isfinite(position)) {
         return 0;
     }
-    return static_cast<int>(std::clamp(position, 0.0, double{sliderMaximum}));
+    // Not enough to be seen, but without it rounding would set a slider that was moved back by one.
+    constexpr double roundingError = 1e-6;
+    return static_cast<int>(std::clamp(position + roundingError, 0.0, double{sliderMaximum}));
 }

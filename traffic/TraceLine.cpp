@@ -12,6 +12,7 @@
 
 #include <array>
 #include <iterator>
+#include <string_view>
 
 using zul::MessageCan;
 
@@ -139,6 +140,25 @@ void appendProfileLine(std::string& text, const MessageCan& frame, std::uint32_t
     text += value.data();
 }
 
+// Letters of the payload and names from profiles are to be seen, not obeyed.
+void escapeMarkup(std::string& text, std::size_t start)
+{
+    if (text.find_first_of("<&", start) == std::string::npos) {
+        return;
+    }
+    std::string escaped;
+    for (const char letter : std::string_view(text).substr(start)) {
+        if (letter == '<') {
+            escaped += "&lt;";
+        } else if (letter == '&') {
+            escaped += "&amp;";
+        } else {
+            escaped += letter;
+        }
+    }
+    text.replace(start, std::string::npos, escaped);
+}
+
 void appendLine(std::string& text, const MessageCan& frame, std::uint32_t number, std::int32_t mode,
                 std::int32_t numberType, const ProfileStore& store)
 {
@@ -178,10 +198,16 @@ void appendTraceScreenLine(std::string& text, const MessageCan& frame, std::uint
         text += errorMarkup;
         return;
     }
+    const std::size_t start = text.size();
     appendLine(text, frame, number, displayMode, numberType, store);
+    if (displayMode != static_cast<std::int32_t>(DisplayMode::Can)) {
+        escapeMarkup(text, start);
+    }
 }
 
 bool areTraceLinesAlike(const MessageCan& frame, std::int32_t displayMode, std::int32_t traceFormat)
 {
-    return displayMode == traceFormat && frame.frameType() != MessageCan::EFrameType::Error;
+    constexpr auto can = static_cast<std::int32_t>(DisplayMode::Can);
+    return displayMode == can && traceFormat == can &&
+           frame.frameType() != MessageCan::EFrameType::Error;
 }

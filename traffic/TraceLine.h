@@ -41,8 +41,8 @@ void appendTraceFileLine(std::string& text, const zul::MessageCan& frame, std::u
                          const ProfileStore& store);
 
 /// The same as shown on the screen in a `DisplayMode`, in Latin-1 and with the markup of error
-/// frames; nothing is escaped. A mode that the window does not offer gives an empty line, but for
-/// error frames.
+/// frames; what could be taken for markup in names and values is escaped. A mode that the window
+/// does not offer gives an empty line, but for error frames.
 ///
 /// Deliberate: of several parameters that lie in the frame, the profile form shows the last one
 /// alone.
@@ -50,6 +50,7 @@ void appendTraceScreenLine(std::string& text, const zul::MessageCan& frame, std:
                            std::int32_t displayMode, std::int32_t numberType,
                            const ProfileStore& store);
 
-/// Whether the line of a frame in the ASCII file is that on the screen, letter by letter.
+/// Whether the line of a frame in the ASCII file is known to be that on the screen, letter by
+/// letter.
 bool areTraceLinesAlike(const zul::MessageCan& frame, std::int32_t displayMode,
                         std::int32_t traceFormat);

@@ -84,9 +84,11 @@ bool TraceRecorder::startOrStop(const std::string& directory, double now)
         m_state = State::Stopped;
         return true;
     }
-    const bool isOpen = openFiles(directory, now);
+    if (!openFiles(directory, now)) {
+        return false;
+    }
     m_state = State::Active;
-    return isOpen;
+    return true;
 }
 
 bool TraceRecorder::openFiles(const std::string& directory, double now)
@@ -106,12 +108,12 @@ std::string TraceRecorder::baseNameOf(const std::string& directory, const QDateT
     return directory + "/zultrace_" + zul::toLatin1(date);
 }
 
-int TraceRecorder::surplusBlocks(int blockCount, int characterCount)
+int TraceRecorder::surplusBlocks(int blockCount, int characterCount, int most)
 {
     if (blockCount > maxBlocks) {
         return blockCount - blocksAfterCut;
     }
-    if (characterCount > maxCharacters) {
+    if (characterCount > most) {
         // As large a part of the view as is cut off from too many blocks; the newest one stays.
         const int part = blockCount / (maxBlocks / (maxBlocks - blocksAfterCut));
         return std::min(std::max(part, 1), blockCount - 1);
@@ -133,7 +135,8 @@ std::string TraceRecorder::statusText(State state) const
     std::snprintf(counts.data(), counts.size(), "  %d / %.1f MB   -   ",
                   static_cast<int>(m_recordCount),
                   static_cast<double>(m_byteCount) * megabytesPerByte);
-    return activeText + (counts.data() + m_baseName);
+    const QString name = zul::fromLatin1(m_baseName).toHtmlEscaped();
+    return activeText + (counts.data() + zul::toLatin1(name));
 }
 
 std::string TraceRecorder::failureText() const

@@ -33,8 +33,6 @@ public:
     static constexpr int maxCharacters = 64 * 1024 * 1024;
     /// Name of the setting that holds the directory of trace files, empty by default.
     static constexpr const char* pathSetting = "TracePath";
-    static constexpr const char* failureTitle = "ZUL Warning";
-    static constexpr const char* failureButton = "Ok";
 
     /// What one batch gave.
     struct Update
@@ -53,9 +51,11 @@ public:
     /// `now` is the application clock in seconds, which names them. False if the files could not be
     /// opened, which `failureText` tells.
     ///
-    /// Deliberate: the state is then active all the same, with 0 records, and nothing is written.
     /// Deliberate: the line number goes on through all traces.
     [[nodiscard]] bool startOrStop(const std::string& directory, double now);
+    /// What the window does once it has told of a failed start. Deliberate: the state is active all
+    /// the same, with 0 records, and nothing is written until the next start.
+    void activateWithoutFiles() { m_state = State::Active; }
 
     /// Path without suffix of the files of a trace that starts at `start`.
     ///
@@ -63,7 +63,7 @@ public:
     static std::string baseNameOf(const std::string& directory, const QDateTime& start);
 
     /// How many of its oldest blocks a view of this size is to drop.
-    static int surplusBlocks(int blockCount, int characterCount);
+    static int surplusBlocks(int blockCount, int characterCount, int most = maxCharacters);
 
     /// The view has been cleared: lines count from 0 again, also those of a running trace's file.
     void clear() { m_lineNumber = 0; }

@@ -15,7 +15,7 @@ namespace gui {
 namespace {
 
 const QString fileFilter = QStringLiteral("ZORB File (*.zul);;All Files (*.*)");
-const QString warningTitle = QStringLiteral("ZUL Warning");
+const QString warningTitle = QLatin1String(MessageBoxes::warningTitle);
 const QString defaultName = QStringLiteral("default.zul");
 const QString suffix = QStringLiteral(".zul");
 

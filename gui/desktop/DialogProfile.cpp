@@ -1,11 +1,11 @@
 #include "gui/desktop/DialogProfile.h"
 
+#include "gui/controls/BusyCursor.h"
 #include "gui/controls/ProfileTree.h"
 #include "gui/desktop/DialogProfileResult.h"
 #include "gui/frame/FileDialogs.h"
 #include "profile/ProfileStore.h"
 
-#include <QGuiApplication>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -15,16 +15,6 @@ namespace gui {
 namespace {
 
 constexpr int margin = 3;
-
-// Shows the cursor that asks for patience while it lives.
-class WaitCursor
-{
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 } // namespace
 
@@ -100,7 +90,7 @@ void DialogProfile::slotLoad()
 
 void DialogProfile::slotLoadAll()
 {
-    const WaitCursor cursor;
+    const BusyCursor cursor(Qt::WaitCursor);
     m_store.loadAll();
     refresh();
     check();

@@ -353,7 +353,7 @@ void DialogProject::slotDelete(bool)
         return;
     }
     const auto answer = MessageBoxes::ask(
-        this, QMessageBox::Question, QStringLiteral("ZUL Warning"),
+        this, QMessageBox::Question, QLatin1String(MessageBoxes::warningTitle),
         QStringLiteral("Really delete the object ?"), {QMessageBox::Yes, QMessageBox::Cancel});
     if (answer == QMessageBox::Yes) {
         emit signalDeleteObject(id);

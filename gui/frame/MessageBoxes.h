@@ -12,6 +12,9 @@ namespace gui {
 class MessageBoxes
 {
 public:
+    /// Title of boxes that warn.
+    static constexpr const char* warningTitle = "ZUL Warning";
+
     /// What was asked last.
     struct Question
     {

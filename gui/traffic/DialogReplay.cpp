@@ -1,12 +1,12 @@
 #include "gui/traffic/DialogReplay.h"
 
 #include "core/Clock.h"
+#include "gui/controls/BusyCursor.h"
 #include "gui/frame/FileDialogs.h"
 #include "gui/frame/WidgetHeader.h"
 #include "project/ObjectReplay.h"
 #include "project/Project.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QLCDNumber>
 #include <QLineEdit>
@@ -38,16 +38,6 @@ QIcon icon(const char* name)
 {
     return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
 }
-
-/// Shows the busy cursor for as long as it lives.
-class BusyCursor
-{
-public:
-    BusyCursor() { QApplication::setOverrideCursor(Qt::BusyCursor); }
-    ~BusyCursor() { QApplication::restoreOverrideCursor(); }
-    BusyCursor(const BusyCursor&) = delete;
-    BusyCursor& operator=(const BusyCursor&) = delete;
-};
 
 } // namespace
 
@@ -226,7 +216,7 @@ void DialogReplay::slotLoad()
     if (path.isEmpty()) {
         return;
     }
-    const BusyCursor cursor;
+    const BusyCursor cursor(Qt::BusyCursor);
     m_player.load(path);
     updateDialog();
 }

@@ -9,6 +9,7 @@
 #include "gui/frame/DialogFilter.h"
 #include "gui/frame/MessageBoxes.h"
 #include "gui/frame/WidgetHeader.h"
+#include "gui/traffic/TraceView.h"
 #include "message/MessageContainer.h"
 #include "profile/ProfileStore.h"
 #include "project/ObjectTrace.h"
@@ -18,7 +19,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QToolButton>
@@ -34,17 +34,10 @@ constexpr int margin = 3;
 constexpr int firstWidth = 550;
 constexpr int firstHeight = 300;
 constexpr int statusFontPixels = 10;
-constexpr int viewFontPixels = 11;
 
 QIcon icon(const char* name)
 {
     return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
-}
-
-QFont fontOfPixels(QFont font, int pixels)
-{
-    font.setPixelSize(pixels);
-    return font;
 }
 
 } // namespace
@@ -71,10 +64,13 @@ void DialogTrace::build()
     m_status = new QLabel(this);
     m_status->setObjectName(QStringLiteral("traceStatus"));
     m_status->setTextFormat(Qt::RichText);
-    m_status->setFont(fontOfPixels(m_status->font(), statusFontPixels));
+    QFont small = m_status->font();
+    small.setPixelSize(statusFontPixels);
+    m_status->setFont(small);
     // A long path is cut off at the right instead of making the window wider.
     m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    buildView();
+    m_view = new TraceView(this);
+    m_view->setObjectName(QStringLiteral("traceView"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(margin);
@@ -102,20 +98,6 @@ void DialogTrace::buildHeader()
     }
     m_header->addCustomWidget(m_recordMode);
     m_header->addCustomStretch();
-}
-
-void DialogTrace::buildView()
-{
-    m_view = new QPlainTextEdit(this);
-    m_view->setObjectName(QStringLiteral("traceView"));
-    QFont font(QStringLiteral("Courier"));
-    font.setStyleHint(QFont::TypeWriter);
-    m_view->setFont(fontOfPixels(font, viewFontPixels));
-    m_view->setReadOnly(true);
-    m_view->setUndoRedoEnabled(false);
-    m_view->setWordWrapMode(QTextOption::NoWrap);
-    m_view->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_view->setMaximumBlockCount(TraceRecorder::maxBlocks);
 }
 
 void DialogTrace::buildBottom(QVBoxLayout& layout)
@@ -175,22 +157,10 @@ void DialogTrace::receive(MessageContainer& batch)
         return;
     }
     if (update.hasLines) {
-        showLines(update.html);
+        m_view->appendLines(zul::fromLatin1(update.html));
     }
     m_header->setInputCount(m_recorder.receivedTotal());
     showTraceState();
-}
-
-void DialogTrace::showLines(const std::string& html)
-{
-    m_view->appendHtml(zul::fromLatin1(html));
-    // One batch is one block of many lines, so blocks alone do not bound what the view keeps.
-    const int surplus =
-        TraceRecorder::surplusBlocks(m_view->blockCount(), m_view->document()->characterCount());
-    if (surplus > 0) {
-        m_view->setMaximumBlockCount(m_view->blockCount() - surplus);
-        m_view->setMaximumBlockCount(TraceRecorder::maxBlocks);
-    }
 }
 
 void DialogTrace::showTraceState()
@@ -275,8 +245,9 @@ void DialogTrace::slotStartStopTrace()
     const QString directory =
         SettingsStore::instance().string(QLatin1String(TraceRecorder::pathSetting), QString());
     if (!m_recorder.startOrStop(zul::toLatin1(directory), zul::wallClock())) {
-        MessageBoxes::ask(this, QMessageBox::Critical, QLatin1String(TraceRecorder::failureTitle),
+        MessageBoxes::ask(this, QMessageBox::Critical, QLatin1String(MessageBoxes::warningTitle),
                           zul::fromLatin1(m_recorder.failureText()), {QMessageBox::Ok});
+        m_recorder.activateWithoutFiles();
     }
     showTraceState();
 }

@@ -5,7 +5,6 @@
 
 class ObjectTrace;
 class QLabel;
-class QPlainTextEdit;
 class QToolButton;
 class QVBoxLayout;
 class WidgetHeader;
@@ -14,6 +13,7 @@ namespace gui {
 
 class DialogFilter;
 class QwtComboBox;
+class TraceView;
 
 /// Shows the traffic as running text, and records it to two files while a trace is active.
 class DialogTrace : public DialogBase
@@ -53,12 +53,10 @@ private slots:
 private:
     void build();
     void buildHeader();
-    void buildView();
     void buildBottom(QVBoxLayout& layout);
     void connectControls();
     void showSettings();
     void showTraceState();
-    void showLines(const std::string& html);
     void markEdited();
 
     ObjectTrace* m_trace;
@@ -69,7 +67,7 @@ private:
     QToolButton* m_startStop = nullptr;
     QwtComboBox* m_recordMode = nullptr;
     QLabel* m_status = nullptr;
-    QPlainTextEdit* m_view = nullptr;
+    TraceView* m_view = nullptr;
     QwtComboBox* m_displayMode = nullptr;
     DialogFilter* m_filterDialog = nullptr;
 };

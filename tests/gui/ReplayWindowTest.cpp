@@ -243,6 +243,29 @@ TEST_F(ReplayWindow, SliderMovesAPausedReplay)
     EXPECT_EQ(m_outlet.batches, (std::vector<std::string>{"1", "3"}));
 }
 
+TEST_F(ReplayWindow, ShowingThePositionDoesNotMoveIt)
+{
+    load();
+    click("start");
+    tick(0.1234);
+    EXPECT_EQ(find<QSlider>("position")->value(), 41);
+    EXPECT_NEAR(m_dialog->replay().elapsed(), 0.1234, 1e-9);
+    click("start");
+    EXPECT_NEAR(m_dialog->replay().elapsed(), 0.1234, 1e-9);
+}
+
+TEST_F(ReplayWindow, SliderOfAPausedReplayMovesByKeys)
+{
+    load();
+    click("start");
+    click("start");
+    auto* slider = find<QSlider>("position");
+    for (int position = 1; position <= 20; ++position) {
+        QTest::keyClick(slider, Qt::Key_Right);
+        ASSERT_EQ(slider->value(), position);
+    }
+}
+
 TEST_F(ReplayWindow, StopGoesBackToTheStart)
 {
     load();
@@ -257,6 +280,7 @@ TEST_F(ReplayWindow, AutoRepeatBeginsAgain)
 {
     click("autoRepeat");
     EXPECT_TRUE(m_object->settings().autoRepeat);
+    EXPECT_FALSE(m_project.isEdited());
     load();
     click("start");
     tick(3.5);
@@ -321,6 +345,8 @@ TEST_F(ReplayWindow, WindowWithoutAnObjectStops)
     EXPECT_TRUE(m_outlet.batches.empty());
     click("outputSwitch");
     click("autoRepeat");
+    emit m_dialog->findChild<WidgetHeader*>()->signalInputInterface(QStringLiteral("Tail"));
+    emit m_dialog->findChild<WidgetHeader*>()->signalOutputInterface(QStringLiteral("Tail"));
     m_dialog->updateDialog();
 }
 

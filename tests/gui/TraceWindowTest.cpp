@@ -5,6 +5,7 @@
 #include "gui/frame/WidgetHeader.h"
 #include "gui/frame/WidgetInterfaceSelect.h"
 #include "gui/traffic/DialogTrace.h"
+#include "gui/traffic/TraceView.h"
 #include "message/MessageCan.h"
 #include "message/MessageContainer.h"
 #include "project/ObjectTrace.h"
@@ -231,6 +232,29 @@ TEST_F(TraceWindow, FilterSetupEditsTheFilterWhileFramesComeIn)
     EXPECT_EQ(lines().size(), 2);
 }
 
+TEST_F(TraceWindow, FilterSetupLetsGoOfTheFilterWhenTheObjectGoes)
+{
+    click("filterSetup");
+    auto* filter = m_dialog->findChild<gui::DialogFilter*>();
+    auto* minimum = filter->findChild<QSpinBox*>(QStringLiteral("minId"));
+    m_project.deleteObject(m_object->id());
+    EXPECT_FALSE(filter->isVisible());
+    minimum->setValue(5); // would write into what is gone
+}
+
+TEST_F(TraceWindow, ViewDropsItsOldestBatchesWhenItHasTooManyLetters)
+{
+    auto* view = m_dialog->findChild<gui::TraceView*>();
+    view->setMaxCharacters(150);
+    for (std::uint32_t id = 1; id <= 9; ++id) {
+        feed(batchOf({id}));
+    }
+    EXPECT_LE(view->document()->characterCount(), 150);
+    EXPECT_GE(view->blockCount(), 4);
+    EXPECT_EQ(lines().constLast(), QStringLiteral("00008 1.500 S 9 D1 0-> 011"));
+    EXPECT_EQ(view->maximumBlockCount(), 100'000);
+}
+
 TEST_F(TraceWindow, TraceWritesBothFilesAndTellsSo)
 {
     click("startStop");
@@ -293,9 +317,11 @@ TEST_F(TraceWindow, StartInAMissingDirectoryTellsOnceAndIsActive)
                              "preferences !")
                   .arg(missing, traceName));
     feed(batchOf({7}));
+    EXPECT_EQ(find<QToolButton>("startStop")->text(), QStringLiteral("Stop Trace"));
     EXPECT_TRUE(status().contains(QStringLiteral("Trace Active</font></b>  0 / 0.0 MB   -   ")));
     click("startStop");
     EXPECT_EQ(MessageBoxes::count(), before + 1);
+    EXPECT_EQ(find<QToolButton>("startStop")->text(), QStringLiteral("Start Trace"));
     EXPECT_EQ(status(), stoppedStatus);
     EXPECT_TRUE(QDir(m_directory).entryList(QDir::Files).isEmpty());
 }
@@ -406,6 +432,10 @@ TEST_F(TraceWindow, WindowWithoutAnObjectDoesNothing)
     }
     choose("displayMode", 1);
     choose("recordMode", 1);
+    emit m_dialog->findChild<WidgetHeader*>()->signalInputInterface(QStringLiteral("Tail"));
+    emit m_dialog->findChild<WidgetHeader*>()->signalOutputInterface(QStringLiteral("Tail"));
+    click("startStop");
+    click("startStop");
     m_dialog->updateDialog();
     EXPECT_TRUE(lines().isEmpty());
 }

@@ -52,6 +52,17 @@ TEST(ActiveIdentifiers, WhatIsNoFrameIsPassedOver)
     EXPECT_THAT(active.update(batch), ElementsAre(5));
 }
 
+TEST(ActiveIdentifiers, NoneIsKeptBeyondTheMost)
+{
+    ActiveIdentifiers active;
+    for (std::uint32_t id = 0; id < ActiveIdentifiers::maxIdentifiers - 1U; ++id) {
+        active.update(batchOf({id}));
+    }
+    EXPECT_THAT(active.update(batchOf({0x1000000, 0x1000001})), ElementsAre(0x1000000));
+    EXPECT_THAT(active.update(batchOf({0x1000001})), IsEmpty());
+    EXPECT_EQ(active.count(), 100'000);
+}
+
 TEST(ActiveIdentifiers, AfterClearAllAreNewAgain)
 {
     ActiveIdentifiers active;

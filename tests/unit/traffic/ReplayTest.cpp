@@ -353,6 +353,17 @@ TEST_F(ReplayTest, SliderIsTruncated)
     EXPECT_EQ(Replay::positionText(), QString()) << "blank at every refresh";
 }
 
+TEST_F(ReplayTest, SliderStaysWhereItWasMoved)
+{
+    for (const double span : {0.007, 1.0, 3.0, 7.3, 60.0, 123.456, 86'400.125}) {
+        loadTimes({1795286109.123, 1795286109.123 + span});
+        for (int position = 0; position <= Replay::sliderMaximum; ++position) {
+            m_replay.seek(position);
+            ASSERT_EQ(m_replay.sliderPosition(), position) << span;
+        }
+    }
+}
+
 TEST_F(ReplayTest, SliderOfOneFrameOrNoneIs0)
 {
     EXPECT_EQ(m_replay.sliderPosition(), 0);

@@ -213,4 +213,28 @@ TEST_F(TraceLineTest, NumbersAsPrintfWritesThem)
     }
 }
 
+TEST_F(TraceLineTest, MarkupInNamesAndValuesIsShownAndNotObeyed)
+{
+    MessageCan frame = traceFrame(300, 1.0, {1, 23, 0, 4, '<', 0, 0, 0}); // ACHAR
+    EXPECT_NE(fileLine(frame, 3, 0).find('<'), std::string::npos);
+    EXPECT_EQ(screenLine(frame, 3, 0).find('<'), std::string::npos);
+    EXPECT_NE(screenLine(frame, 3, 0).find("&lt;"), std::string::npos);
+    EXPECT_FALSE(areTraceLinesAlike(frame, 3, 3));
+    addParameter(0x4, "A<b>&C", 0);
+    frame = traceFrame(0x4, 1.0, {1, 2, 3, 4});
+    EXPECT_NE(screenLine(frame, 6, 0).find(" A&lt;b>&amp;C = "), std::string::npos);
+    EXPECT_NE(fileLine(frame, 6, 0).find(" A<b>&C = "), std::string::npos);
+}
+
+TEST_F(TraceLineTest, PlainLinesAreAlike)
+{
+    for (const MessageCan& frame : goldenFrames()) {
+        const bool isError = frame.frameType() == MessageCan::EFrameType::Error;
+        EXPECT_EQ(areTraceLinesAlike(frame, 0, 0), !isError);
+        EXPECT_EQ(fileLine(frame, 0, 0) == screenLine(frame, 0, 0), !isError);
+        EXPECT_FALSE(areTraceLinesAlike(frame, 0, 3));
+        EXPECT_FALSE(areTraceLinesAlike(frame, 6, 6));
+    }
+}
+
 } // namespace

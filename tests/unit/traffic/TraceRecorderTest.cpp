@@ -60,8 +60,6 @@ TEST_F(TraceRecorderTest, Constants)
     EXPECT_EQ(TraceRecorder::blocksAfterCut, 98000);
     EXPECT_EQ(TraceRecorder::maxCharacters, 67'108'864);
     EXPECT_STREQ(TraceRecorder::pathSetting, "TracePath");
-    EXPECT_STREQ(TraceRecorder::failureTitle, "ZUL Warning");
-    EXPECT_STREQ(TraceRecorder::failureButton, "Ok");
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Stopped), 0);
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Waiting), 1);
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Active), 2);
@@ -145,6 +143,7 @@ TEST_F(TraceRecorderTest, StartInAMissingDirectoryIsActiveAndWritesNothing)
 {
     const std::string missing = directory() + "/missing";
     EXPECT_FALSE(m_recorder.startOrStop(missing, startTime));
+    m_recorder.activateWithoutFiles();
     EXPECT_EQ(m_recorder.failureText(), "Could not open trace file <" + missing + "/" +
                                             startName.toStdString() +
                                             "> !\nCheck your path under preferences !");
@@ -160,6 +159,21 @@ TEST_F(TraceRecorderTest, StartInAMissingDirectoryIsActiveAndWritesNothing)
     EXPECT_EQ(m_recorder.state(), TraceRecorder::State::Stopped);
     EXPECT_EQ(fileCount(), 0);
     EXPECT_FALSE(QDir(QString::fromStdString(missing)).exists());
+}
+
+TEST_F(TraceRecorderTest, FailedStartLeavesItToTheWindowToBeActive)
+{
+    EXPECT_FALSE(m_recorder.startOrStop(directory() + "/missing", startTime));
+    EXPECT_EQ(m_recorder.state(), TraceRecorder::State::Stopped);
+    m_recorder.activateWithoutFiles();
+    EXPECT_EQ(m_recorder.state(), TraceRecorder::State::Active);
+}
+
+TEST_F(TraceRecorderTest, PathIsShownAsItIs)
+{
+    ASSERT_TRUE(QDir(m_home.path()).mkdir(QStringLiteral("a&amp;<b>")));
+    ASSERT_TRUE(m_recorder.startOrStop(directory() + "/a&amp;<b>", startTime));
+    EXPECT_NE(m_recorder.statusText().find("/a&amp;amp;&lt;b&gt;/zultrace"), std::string::npos);
 }
 
 TEST_F(TraceRecorderTest, FailureAfterATraceShowsNoRecords)
