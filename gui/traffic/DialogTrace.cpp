@@ -17,6 +17,7 @@
 #include "traffic/MessageModes.h"
 #include "traffic/TraceLine.h"
 
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScopedValueRollback>
@@ -34,6 +35,7 @@ constexpr int margin = 3;
 constexpr int firstWidth = 550;
 constexpr int firstHeight = 300;
 constexpr int statusFontPixels = 10;
+constexpr int shownFormatLetters = 8;
 
 QIcon icon(const char* name)
 {
@@ -96,8 +98,11 @@ void DialogTrace::buildHeader()
     for (const TraceFormatText& format : traceFormats) {
         m_recordMode->addItem(QLatin1String(format.text), static_cast<int>(format.format));
     }
+    // The bar is full: the selection may shrink, and its list still shows all of each entry.
+    m_recordMode->view()->setMinimumWidth(m_recordMode->sizeHint().width());
+    m_recordMode->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_recordMode->setMinimumContentsLength(shownFormatLetters);
     m_header->addCustomWidget(m_recordMode);
-    m_header->addCustomStretch();
 }
 
 void DialogTrace::buildBottom(QVBoxLayout& layout)
