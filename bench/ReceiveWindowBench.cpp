@@ -148,10 +148,10 @@ public:
         for (const int index : table.dirtyRows()) {
             receiveRowText(table.row(index), hexadecimal, m_text);
             QTreeWidgetItem* top = m_tree.topLevelItem(index);
-            setText(top, ReceiveColumn::Count, m_text.count);
-            setText(top, ReceiveColumn::Time, m_text.time);
-            setText(top, ReceiveColumn::Id, m_text.id);
-            setText(top, ReceiveColumn::Length, m_text.length);
+            setText(top, ReceiveColumn::Count, m_text.cell(ReceiveColumn::Count));
+            setText(top, ReceiveColumn::Time, m_text.cell(ReceiveColumn::Time));
+            setText(top, ReceiveColumn::Id, m_text.cell(ReceiveColumn::Id));
+            setText(top, ReceiveColumn::Length, m_text.cell(ReceiveColumn::Length));
             setText(top, ReceiveColumn::Message, m_text.lines[0]);
             for (int line = 1; line < receiveLineCount; ++line) {
                 setText(top->child(line - 1), ReceiveColumn::Message, m_text.lines[line]);
