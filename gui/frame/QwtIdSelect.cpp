@@ -57,9 +57,11 @@ void QwtIdSelect::setId(int id)
 void QwtIdSelect::slotSelect()
 {
     const QPointer<QwtIdSelect> self(this);
-    const QPointer<DialogSelectId> dialog(&DialogSelectId::instance());
-    // Frames go on coming meanwhile, and a window may go.
-    if (dialog->choose(window()) != QDialog::Accepted || self == nullptr || dialog == nullptr) {
+    const QPointer<DialogSelectId> guard(&DialogSelectId::instance());
+    const int result = guard->choose(window());
+    // Frames went on coming meanwhile, and windows may have gone.
+    const DialogSelectId* const dialog = guard.data();
+    if (result != QDialog::Accepted || self == nullptr || dialog == nullptr) {
         return;
     }
     m_parameter = dialog->chosenParameter();
