@@ -1,8 +1,6 @@
-#include "bench/BenchMain.h"
+#include "bench/WindowMain.h"
 
-#include <QApplication>
-
-#include <clocale>
+#include <string>
 
 namespace {
 
@@ -35,13 +33,5 @@ std::vector<bench::Comparison> comparisons()
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {
-        // The offscreen platform complains at each window that is shown.
-    });
-    const QApplication application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C"); // NOLINT(concurrency-mt-unsafe)
-    return bench::runBenchmarks(argc, argv, comparisons());
+    return bench::runWindowBenchmarks(argc, argv, comparisons());
 }

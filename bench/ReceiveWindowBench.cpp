@@ -1,7 +1,7 @@
 // The Receive window itself: batches that bring new identifiers, and the repaint of its rows.
 
 #include "bench/FramePool.h"
-#include "bench/RatioReporter.h"
+#include "bench/WindowMain.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/ReceiveTree.h"
 #include "message/MessageCan.h"
@@ -11,30 +11,12 @@
 #include <QApplication>
 #include <QTreeWidget>
 
-#include <ctime>
-
 namespace {
 
 constexpr int paintedRows = 2'000;
 constexpr int hexadecimal = 1;
 constexpr QSize windowSize(700, 500);
 constexpr double tickSeconds = 0.05;
-
-double processorSeconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
-// Counts the main thread's processor time for `work` alone.
-template <typename Work>
-void timed(benchmark::State& state, Work work)
-{
-    const double begin = processorSeconds();
-    work();
-    state.SetIterationTime(processorSeconds() - begin);
-}
 
 // One batch of identifiers that the window has not seen: rows and items are made. Range 0 is
 // their number.
@@ -47,7 +29,7 @@ void windowNewRows(benchmark::State& state)
         window.resize(windowSize);
         window.show();
         QApplication::processEvents();
-        timed(state, [&] { window.receive(pool.next()); });
+        bench::timed(state, [&] { window.receive(pool.next()); });
     }
     bench::setItems(state, state.range(0));
 }
@@ -115,7 +97,7 @@ void repaintRows(benchmark::State& state, Screen screen)
     QApplication::processEvents();
     for ([[maybe_unused]] auto _ : state) {
         rows.change();
-        timed(state, [&] {
+        bench::timed(state, [&] {
             tree.paintDirtyRows(rows.table(), hexadecimal);
             finishPainting(screen);
         });
@@ -148,10 +130,10 @@ public:
         for (const int index : table.dirtyRows()) {
             receiveRowText(table.row(index), hexadecimal, m_text);
             QTreeWidgetItem* top = m_tree.topLevelItem(index);
-            setText(top, ReceiveColumn::Count, m_text.count);
-            setText(top, ReceiveColumn::Time, m_text.time);
-            setText(top, ReceiveColumn::Id, m_text.id);
-            setText(top, ReceiveColumn::Length, m_text.length);
+            setText(top, ReceiveColumn::Count, m_text.cell(ReceiveColumn::Count));
+            setText(top, ReceiveColumn::Time, m_text.cell(ReceiveColumn::Time));
+            setText(top, ReceiveColumn::Id, m_text.cell(ReceiveColumn::Id));
+            setText(top, ReceiveColumn::Length, m_text.cell(ReceiveColumn::Length));
             setText(top, ReceiveColumn::Message, m_text.lines[0]);
             for (int line = 1; line < receiveLineCount; ++line) {
                 setText(top->child(line - 1), ReceiveColumn::Message, m_text.lines[line]);
@@ -176,7 +158,7 @@ void plainRows(benchmark::State& state, Screen screen)
     PlainTree tree(paintedRows);
     for ([[maybe_unused]] auto _ : state) {
         rows.change();
-        timed(state, [&] {
+        bench::timed(state, [&] {
             tree.write(rows.table());
             finishPainting(screen);
         });

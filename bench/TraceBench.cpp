@@ -1,7 +1,7 @@
 // Recording traces against writing the same bytes; loading, seeking and playing them.
 
-#include "bench/BenchMain.h"
 #include "bench/FramePool.h"
+#include "bench/WindowMain.h"
 #include "gui/traffic/DialogTrace.h"
 #include "message/MessageCan.h"
 #include "profile/ProfileStore.h"
@@ -17,7 +17,6 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
-#include <clocale>
 #include <cstdio>
 
 namespace {
@@ -281,13 +280,5 @@ std::vector<bench::Comparison> comparisons()
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {
-        // The offscreen platform complains at each window that is shown.
-    });
-    const QApplication application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C"); // NOLINT(concurrency-mt-unsafe)
-    return bench::runBenchmarks(argc, argv, comparisons());
+    return bench::runWindowBenchmarks(argc, argv, comparisons());
 }

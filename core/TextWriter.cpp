@@ -81,10 +81,11 @@ void TextWriter::appendLeftAligned(std::int64_t number, int width)
     fill(' ', width - digits.length());
 }
 
-void TextWriter::appendHexadecimal(std::uint32_t number)
+void TextWriter::appendHexadecimal(std::uint32_t number, Letters letters)
 {
     constexpr unsigned bitsPerDigit = 4;
-    constexpr const char* digits = "0123456789ABCDEF";
+    const char* const digits =
+        letters == Letters::Capital ? "0123456789ABCDEF" : "0123456789abcdef";
     unsigned shift = 32 - bitsPerDigit;
     while (shift > 0 && number >> shift == 0) {
         shift -= bitsPerDigit;

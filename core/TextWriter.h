@@ -13,6 +13,9 @@ class TextWriter
 public:
     static constexpr int maxDecimals = 4; ///< of a time
 
+    /// Of hexadecimal digits.
+    enum class Letters { Capital, Small };
+
     /// The text is empty at first. `capacity` counts the closing 0 and is at least 1.
     TextWriter(char* buffer, std::size_t capacity);
 
@@ -30,8 +33,8 @@ public:
     void appendZeroFilled(std::int64_t number, int width);
     /// As "%-*d".
     void appendLeftAligned(std::int64_t number, int width);
-    /// As "%X".
-    void appendHexadecimal(std::uint32_t number);
+    /// As "%X", or as "%x" with small letters.
+    void appendHexadecimal(std::uint32_t number, Letters letters = Letters::Capital);
     /// As "%.4f" of `zul::MessageCan::timeStampDouble`, to the last digit; with `decimals`, 1 to 4,
     /// in place of the 4.
     void appendTime(const zul::MessageCan::TimeStamp& time, int decimals = maxDecimals);

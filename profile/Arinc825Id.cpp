@@ -3,8 +3,6 @@
 #include "core/NumberType.h"
 #include "core/TextWriter.h"
 
-#include <cstdio>
-
 namespace zul::arinc825 {
 
 namespace {
@@ -102,7 +100,12 @@ void parameterKeyText(char* buffer, std::size_t capacity, std::uint32_t id, int 
 
 void parameterKeyIdText(char* buffer, std::size_t capacity, std::uint32_t id)
 {
-    std::snprintf(buffer, capacity, "0x%x", parameterKey(id));
+    if (capacity == 0) {
+        return;
+    }
+    TextWriter text(buffer, capacity);
+    text.append("0x");
+    text.appendHexadecimal(parameterKey(id), TextWriter::Letters::Small);
 }
 
 } // namespace zul::arinc825

@@ -1,5 +1,6 @@
 #include "traffic/ReceiveTable.h"
 
+#include "profile/Arinc825Id.h"
 #include "project/Filter.h"
 
 #include <algorithm>
@@ -20,6 +21,24 @@ void prefetch(const ReceiveRow& row)
 
 } // namespace
 
+void ReceiveTable::showIdentifiers()
+{
+    if (m_parameterIndex != nullptr) {
+        clear();
+    }
+    m_parameterIndex = nullptr;
+    m_ignoredBits = 0;
+}
+
+void ReceiveTable::showParameters(const ProfileStore::ParameterIndex& index)
+{
+    if (m_parameterIndex != &index) {
+        clear();
+    }
+    m_parameterIndex = &index;
+    m_ignoredBits = zul::arinc825::data::fsb.mask();
+}
+
 void ReceiveTable::update(const MessageContainer& batch, bool inputOn, const Filter& filter,
                           double now)
 {
@@ -38,7 +57,7 @@ void ReceiveTable::update(const MessageContainer& batch, bool inputOn, const Fil
         if (!inputOn || !filter.matches(frame->id())) {
             continue;
         }
-        m_index.prefetch(frame->id());
+        m_index.prefetch(keyOf(frame->id()));
         frames[count++] = frame;
         if (count == frames.size()) {
             takeFrames(frames, count, now);
@@ -53,17 +72,21 @@ void ReceiveTable::takeFrames(const Frames& frames, std::size_t count, double no
 {
     std::array<int, framesAtOnce> rows{};
     for (std::size_t i = 0; i < count; ++i) {
-        rows[i] = findOrAddRow(frames[i]->id());
+        rows[i] = findOrAddRows(keyOf(frames[i]->id()));
         prefetch(row(rows[i]));
     }
     for (std::size_t i = 0; i < count; ++i) {
-        takeFrame(rows[i], *frames[i], now);
+        const int last = rows[i] + static_cast<int>(row(rows[i]).followers);
+        for (int index = rows[i]; index <= last; ++index) {
+            takeFrame(index, *frames[i], now);
+        }
     }
 }
 
 void ReceiveTable::clear()
 {
     m_rows.clear();
+    m_parameters.clear();
     m_index.clear();
     m_dirty.clear();
     m_lastTimes.clear();
@@ -86,15 +109,39 @@ void ReceiveTable::markAllDirty()
     }
 }
 
-int ReceiveTable::findOrAddRow(std::uint32_t identifier)
+int ReceiveTable::findOrAddRows(std::uint32_t key)
 {
     const int newRow = rowCount();
-    const int index = m_index.findOrAdd(identifier, newRow);
+    const int index = m_index.findOrAdd(key, newRow);
     if (index == newRow) {
-        m_rows.emplace_back();
-        m_lastTimes.push_back(0.0);
+        if (m_parameterIndex != nullptr) {
+            addParameterRows(key);
+        } else {
+            addRow();
+        }
     }
     return index;
+}
+
+void ReceiveTable::addRow()
+{
+    m_rows.emplace_back();
+    m_lastTimes.push_back(0.0);
+}
+
+void ReceiveTable::addParameterRows(std::uint32_t key)
+{
+    const int first = rowCount();
+    const auto found = m_parameterIndex->equal_range(zul::arinc825::parameterKey(key));
+    for (auto entry = found.first; entry != found.second; ++entry) {
+        m_parameters.push_back({entry->second, true});
+        addRow();
+    }
+    if (found.first == found.second) {
+        m_parameters.emplace_back();
+        addRow();
+    }
+    row(first).followers = static_cast<std::uint32_t>(rowCount() - first - 1);
 }
 
 void ReceiveTable::takeFrame(int index, const MessageCan& frame, double now)

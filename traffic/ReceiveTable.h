@@ -2,6 +2,7 @@
 
 #include "message/MessageCan.h"
 #include "message/MessageContainer.h"
+#include "profile/ProfileStore.h"
 #include "traffic/IdentifierIndex.h"
 
 #include <array>
@@ -12,8 +13,8 @@
 
 class Filter;
 
-/// One row of the Receive window: the last frame of one identifier, and what the screen shows of
-/// it.
+/// One row of the Receive window: the last frame of one identifier or parameter, and what the
+/// screen shows of it.
 struct ReceiveRow
 {
     static constexpr std::uint32_t neverShown = 99;
@@ -25,17 +26,35 @@ struct ReceiveRow
     bool dirty = false;       ///< waits for its repaint
     /// Byte count for which the lines below the first were last hidden or shown.
     std::uint32_t shownByteCount = neverShown;
+    /// Rows right behind this one that take the same frames; counted in the first of them alone.
+    std::uint32_t followers = 0;
     zul::MessageCan msg;
 };
 
-/// The rows of the Receive window, one for each identifier, in the order of their first frame.
+/// What a row of `ReceiveTable::showParameters` reads from its frames: a copy, since the profiles
+/// may be loaded anew while the row stands.
+struct ReceiveParameter
+{
+    ProfileParameter parameter;
+    bool isKnown = false; ///< false if no profile has the identifier
+};
+
+/// The rows of the Receive window, in the order of their first frame.
 ///
-/// `update` costs the same for each frame, however many rows there are.
+/// `update` costs the same for each frame, however many rows there are; one that several rows share
+/// costs as much for each of them.
 class ReceiveTable
 {
 public:
     /// A row is silent when its last frame is older than this, in seconds.
     static constexpr double silentAfter = 0.5;
+
+    /// One row for each identifier, as at first. Forgets all rows if they were others.
+    void showIdentifiers();
+    /// One row for each parameter that `index`, which outlives the table, has for an identifier;
+    /// one that knows no parameter if there is none. Identifiers that differ in FSB alone share
+    /// their rows. Forgets all rows if they were others.
+    void showParameters(const ProfileStore::ParameterIndex& index);
 
     /// Takes one batch. Every frame counts for `receivedTotal`; those that come while the input is
     /// off or that `filter` rejects do nothing else. Then rows whose age exceeds `silentAfter` turn
@@ -48,6 +67,11 @@ public:
     int rowCount() const { return static_cast<int>(m_rows.size()); }
     ReceiveRow& row(int index) { return m_rows[static_cast<std::size_t>(index)]; }
     const ReceiveRow& row(int index) const { return m_rows[static_cast<std::size_t>(index)]; }
+    /// Of a row of `showParameters`; there are none for others.
+    const ReceiveParameter& parameter(int index) const
+    {
+        return m_parameters[static_cast<std::size_t>(index)];
+    }
 
     /// Indices of the rows that changed since `clearDirty`, each once.
     const std::vector<int>& dirtyRows() const { return m_dirty; }
@@ -78,7 +102,10 @@ private:
     using Frames = std::array<const zul::MessageCan*, framesAtOnce>;
 
     void takeFrames(const Frames& frames, std::size_t count, double now);
-    int findOrAddRow(std::uint32_t identifier);
+    std::uint32_t keyOf(std::uint32_t identifier) const { return identifier & ~m_ignoredBits; }
+    int findOrAddRows(std::uint32_t key);
+    void addRow();
+    void addParameterRows(std::uint32_t key);
     void takeFrame(int index, const zul::MessageCan& frame, double now);
     void markDirty(int index);
     void age(double now);
@@ -89,7 +116,10 @@ private:
     void endInstant(Instant& instant);
 
     std::vector<ReceiveRow> m_rows;
-    IdentifierIndex m_index;
+    IdentifierIndex m_index; // from the key to the first row that has it
+    const ProfileStore::ParameterIndex* m_parameterIndex = nullptr; // null for rows of identifiers
+    std::uint32_t m_ignoredBits = 0;                                // of identifiers
+    std::vector<ReceiveParameter> m_parameters; // those of the rows of parameters
     std::vector<double> m_lastTimes; // those of the rows: ageing looks at no others but silent ones
     std::vector<int> m_dirty;
     // At least the last sighting of every active row, in order of time: ageing looks at the front

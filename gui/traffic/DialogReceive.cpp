@@ -10,9 +10,10 @@
 #include "gui/frame/WidgetHeader.h"
 #include "gui/traffic/ReceiveTree.h"
 #include "message/MessageContainer.h"
+#include "profile/ProfileStore.h"
 #include "project/ObjectReceive.h"
 #include "project/Project.h"
-#include "traffic/MessageModes.h"
+#include "traffic/ReceiveColumns.h"
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
@@ -41,7 +42,7 @@ DialogReceive::DialogReceive(ObjectReceive* object, QWidget* parent)
     m_timer->setSingleShot(true);
     m_timer->start(paintPeriodMs);
     showSettings();
-    m_columnSet = canColumnSet;
+    buildColumns();
 }
 
 DialogReceive::~DialogReceive()
@@ -62,8 +63,11 @@ void DialogReceive::build()
     m_tree->setObjectName(QStringLiteral("receiveTree"));
     m_displayMode = new QwtComboBox(0, this);
     m_displayMode->setObjectName(QStringLiteral("displayMode"));
-    m_displayMode->addItem(QLatin1String(displayModes[0].receive),
-                           static_cast<int>(displayModes[0].mode));
+    for (const DisplayModeTexts& texts : displayModes) {
+        if (texts.receive != nullptr) {
+            m_displayMode->addItem(QLatin1String(texts.receive), static_cast<int>(texts.mode));
+        }
+    }
     auto* clear = new QwtPushButton(QStringLiteral("Clear"), colors::clear, this);
     clear->setObjectName(QStringLiteral("clear"));
     clear->setFixedHeight(clearButtonHeight);
@@ -114,8 +118,7 @@ void DialogReceive::setObject(Object* object)
 
 void DialogReceive::receive(MessageContainer& batch)
 {
-    if (m_receive == nullptr ||
-        (m_inputInterface != allInterfaces && m_inputInterface != batch.srcDest())) {
+    if (m_receive == nullptr || (testsInterface() && m_inputInterface != batch.srcDest())) {
         return;
     }
     const auto& settings = m_receive->settings();
@@ -123,9 +126,20 @@ void DialogReceive::receive(MessageContainer& batch)
     m_tree->addMissingRows(m_table, numberType());
 }
 
+bool DialogReceive::testsInterface() const
+{
+    // Deliberate: the ARINC 825 modes take the batches of all interfaces, whatever is chosen.
+    const bool isCan = m_mode == DisplayMode::Can || m_mode == DisplayMode::CanAerospace;
+    return isCan && m_inputInterface != allInterfaces;
+}
+
 void DialogReceive::updateDialog()
 {
     showSettings();
+    if (m_receive != nullptr && m_mode != displayMode()) {
+        buildColumns();
+        repaintAll();
+    }
 }
 
 void DialogReceive::showSettings()
@@ -141,7 +155,31 @@ void DialogReceive::showSettings()
     m_header->setOutputOn(false);
     m_header->setInputInterface(settings.inputInterface);
     m_header->setNumberType(numberType());
-    m_displayMode->setData(settings.displayMode);
+    m_displayMode->setData(static_cast<int>(displayMode()));
+}
+
+DisplayMode DialogReceive::displayMode() const
+{
+    return receiveDisplayMode(m_receive->settings().displayMode);
+}
+
+void DialogReceive::buildColumns()
+{
+    if (m_receive == nullptr) {
+        return;
+    }
+    m_mode = displayMode();
+    const int columnSet = static_cast<int>(receiveColumnSet(m_mode));
+    if (columnSet != m_columnSet) {
+        clearRows();
+    }
+    m_columnSet = columnSet;
+    if (m_mode == DisplayMode::Arinc825Profile) {
+        m_table.showParameters(ProfileStore::instance().parameterIndex());
+    } else {
+        m_table.showIdentifiers();
+    }
+    m_tree->buildColumns(m_mode);
 }
 
 void DialogReceive::contextMenuEvent(QContextMenuEvent* event)
@@ -213,8 +251,7 @@ void DialogReceive::slotDisplayMode(int mode)
     }
     m_receive->settings().displayMode = mode;
     markEdited();
-    m_tree->buildColumns();
-    m_columnSet = canColumnSet;
+    buildColumns();
     // Deliberate: the first switch empties the rows in any case, since no column set was last.
     if (m_columnSet != m_lastColumnSet) {
         clearRows();
@@ -279,7 +316,8 @@ void DialogReceive::requestDial()
     if (m_currentItem == nullptr) {
         return;
     }
-    // Deliberate: items of this column set carry no identifier, so that 0 goes out.
+    // Deliberate: lines below a row carry no identifier, nor does any item of the display modes CAN
+    // and CANaerospace: 0 goes out for them.
     const int id = m_currentItem->data(0, Qt::UserRole).toInt();
     guiRequest(std::make_unique<MessageGuiDialog>(static_cast<int>(ObjectType::Dial), id));
 }

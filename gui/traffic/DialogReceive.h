@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gui/frame/DialogBase.h"
+#include "traffic/MessageModes.h"
 #include "traffic/ReceiveTable.h"
 
 #include <string>
@@ -60,13 +61,17 @@ private slots:
     void slotTimeout();
 
 private:
-    /// Columns that display modes have in common.
     static constexpr int noColumnSet = -1;
-    static constexpr int canColumnSet = 1; ///< the display modes CAN and CANaerospace
 
     void build();
     void connectControls();
     void showSettings();
+    /// The display mode that the object's number stands for.
+    DisplayMode displayMode() const;
+    /// Whether batches of other interfaces than the chosen one are ignored.
+    bool testsInterface() const;
+    /// Columns and rows of the object's display mode.
+    void buildColumns();
     /// What the object says, anything but hexadecimal being decimal.
     int numberType() const;
     void markEdited();
@@ -78,6 +83,7 @@ private:
     ReceiveTable m_table;
     std::string m_inputInterface; // of the object, as batches name it
     QTreeWidgetItem* m_currentItem = nullptr;
+    DisplayMode m_mode = DisplayMode::Can; // of the columns
     int m_columnSet = 0;
     int m_lastColumnSet = noColumnSet;
     bool m_updating = false;

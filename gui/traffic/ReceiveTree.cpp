@@ -2,6 +2,8 @@
 
 #include "gui/controls/Colors.h"
 #include "gui/traffic/ReceiveTreeItem.h"
+#include "profile/ProfileNumbers.h"
+#include "profile/ProfileStore.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -12,34 +14,46 @@ namespace gui {
 
 namespace {
 
-struct Column
-{
-    const char* header;
-    int width;           // pixels; the last column takes the rest
-    const char* longest; // a text that the column shows whole, also in a wide font
-};
-
-constexpr std::array<Column, receiveColumnCount> columns{{{"Msgs", 100, ""},
-                                                          {"Time", 100, "0000000000.0000"},
-                                                          {"Id", 100, "EB 0x1FFFFFFF"},
-                                                          {"Len", 50, "D64"},
-                                                          {"Message", 0, ""}}};
+using CellFont = ReceiveColumnTexts::Font;
 
 constexpr QSize stateIconSize(16, 14);
 constexpr int boldWeight = 75;
 constexpr int cellMargins = 8;
 constexpr int payloadFontPixels = 11;
+constexpr int arincHeaderFontPixels = 12;
+// Deliberate: a row of ARINC 825 Raw has an empty line below those of its frame.
+constexpr int rawLineCount = receiveLineCount + 1;
 
-constexpr int columnOf(ReceiveColumn column)
+/// A column set's columns.
+struct Columns
 {
-    return static_cast<int>(column);
+    const ReceiveColumnTexts* texts;
+    int count;
+};
+
+Columns columnsOf(ReceiveColumnSet set)
+{
+    switch (set) {
+    case ReceiveColumnSet::Arinc825Raw:
+        return {receiveRawColumns.data(), static_cast<int>(receiveRawColumns.size())};
+    case ReceiveColumnSet::Arinc825Profile:
+        return {receiveProfileColumns.data(), static_cast<int>(receiveProfileColumns.size())};
+    case ReceiveColumnSet::Can:
+        break;
+    }
+    return {receiveColumns.data(), static_cast<int>(receiveColumns.size())};
 }
 
-void setCell(QTreeWidgetItem& item, ReceiveColumn column, const char* text)
+bool hasLines(ReceiveColumnSet set)
+{
+    return set != ReceiveColumnSet::Arinc825Profile;
+}
+
+void setCell(QTreeWidgetItem& item, int column, const char* text)
 {
     const QLatin1String wanted(text);
-    if (item.text(columnOf(column)) != wanted) {
-        item.setText(columnOf(column), wanted);
+    if (item.text(column) != wanted) {
+        item.setText(column, wanted);
     }
 }
 
@@ -58,24 +72,64 @@ ReceiveTree::ReceiveTree(QWidget* parent)
     setExpandsOnDoubleClick(false); // a double click asks for a dial
     setUniformRowHeights(true);
     setIconSize(stateIconSize);
-    buildColumns();
-    // No column at first: rows stand in the order of their first frames until the user sorts.
-    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    buildColumns(m_mode);
+    sortByNone();
     setSortingEnabled(true);
 }
 
-void ReceiveTree::buildColumns()
+// Rows stand in the order of their first frames until the user sorts.
+void ReceiveTree::sortByNone()
 {
-    setColumnCount(receiveColumnCount);
-    QFont bold = font();
-    bold.setWeight(boldWeight);
-    const QFontMetrics metrics(bold);
-    for (int i = 0; i < receiveColumnCount; ++i) {
-        const Column& column = columns[static_cast<std::size_t>(i)];
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+}
+
+void ReceiveTree::buildColumns(DisplayMode mode)
+{
+    m_mode = mode;
+    if (m_set != receiveColumnSet(mode)) {
+        m_set = receiveColumnSet(mode);
+        sortByNone(); // the user chose it from other columns
+    }
+    const Columns columns = columnsOf(m_set);
+    setColumnCount(columns.count);
+    QFont headerFont = font();
+    headerFont.setPixelSize(arincHeaderFontPixels);
+    for (int i = 0; i < columns.count; ++i) {
+        const ReceiveColumnTexts& column = columns.texts[i];
         headerItem()->setText(i, QLatin1String(column.header));
+        headerItem()->setToolTip(i, QLatin1String(column.toolTip));
+        headerItem()->setData(i, Qt::FontRole,
+                              m_set == ReceiveColumnSet::Can ? QVariant() : QVariant(headerFont));
+        if (column.font == CellFont::Payload) {
+            m_payloadColumn = i;
+        }
+        const QFontMetrics metrics(cellFont(column.font));
+        int needed = metrics.horizontalAdvance(QLatin1String(column.longest)) + cellMargins;
+        if (i == 0 && column.longest[0] != '\0') {
+            needed += indentation() + stateIconSize.width() + cellMargins;
+        }
         if (column.width > 0) {
-            const int needed = metrics.horizontalAdvance(QLatin1String(column.longest));
-            setColumnWidth(i, std::max(column.width, needed + cellMargins));
+            setColumnWidth(i, std::max(column.width, needed));
+        }
+    }
+}
+
+QFont ReceiveTree::cellFont(CellFont font) const
+{
+    if (font == CellFont::Payload) {
+        return m_payloadFont;
+    }
+    QFont made = this->font();
+    made.setWeight(font == CellFont::Bold ? boldWeight : made.weight());
+    return made;
+}
+
+void ReceiveTree::setCellFonts(QTreeWidgetItem& item) const
+{
+    const Columns columns = columnsOf(m_set);
+    for (int i = 0; i < columns.count; ++i) {
+        if (columns.texts[i].font != CellFont::Normal) {
+            item.setFont(i, cellFont(columns.texts[i].font));
         }
     }
 }
@@ -90,26 +144,53 @@ void ReceiveTree::addMissingRows(const ReceiveTable& table, int numberType)
 void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType)
 {
     Row row;
-    auto& items = row.items;
-    items[0] = new ReceiveTreeItem(table, index);
-    QFont bold = font();
-    bold.setWeight(boldWeight);
-    items[0]->setFont(columnOf(ReceiveColumn::Id), bold);
-    items[0]->setFont(columnOf(ReceiveColumn::Length), bold);
-    items[0]->setFont(columnOf(ReceiveColumn::Message), m_payloadFont);
-    const auto id = table.row(index).msg.id();
-    items[0]->setText(columnOf(ReceiveColumn::Id),
-                      numberType == 0 ? QString::asprintf("%d", static_cast<int>(id))
-                                      : QString::asprintf("0X%X", id));
-    for (std::size_t line = 1; line < itemCount; ++line) {
-        items[line] = new ReceiveLineItem(items[0], static_cast<int>(line));
-        items[line]->setFont(columnOf(ReceiveColumn::Message), m_payloadFont);
+    row.items[0] = new ReceiveTreeItem(table, m_set, index);
+    setCellFonts(*row.items[0]);
+    addNames(table, index, numberType, *row.items[0]);
+    if (hasLines(m_set)) {
+        addLines(row);
     }
-    addTopLevelItem(items[0]);
-    for (std::size_t line = 1; line < itemCount; ++line) {
+    addTopLevelItem(row.items[0]);
+    for (std::size_t line = 1; line < itemCount && hasLines(m_set); ++line) {
         row.items[line]->setHidden(true); // until the first painting knows the byte count
     }
     m_rows.push_back(row);
+}
+
+void ReceiveTree::addNames(const ReceiveTable& table, int index, int numberType,
+                           QTreeWidgetItem& top) const
+{
+    const std::uint32_t id = table.row(index).msg.id();
+    switch (m_set) {
+    case ReceiveColumnSet::Can:
+        top.setText(static_cast<int>(ReceiveColumn::Id),
+                    isHexadecimal(numberType) ? QString::asprintf("0X%X", id)
+                                              : QString::asprintf("%d", zul::asSigned(id)));
+        break;
+    case ReceiveColumnSet::Arinc825Raw:
+        top.setData(0, Qt::UserRole, zul::asSigned(id));
+        break;
+    case ReceiveColumnSet::Arinc825Profile: {
+        top.setData(0, Qt::UserRole, zul::asSigned(id));
+        const ReceiveRowNames names = receiveRowNames(table.row(index), table.parameter(index));
+        top.setText(static_cast<int>(ReceiveProfileColumn::Rci), QString(QLatin1Char(names.rci)));
+        top.setText(static_cast<int>(ReceiveProfileColumn::Parameter), names.parameter);
+        top.setText(static_cast<int>(ReceiveProfileColumn::Unit), names.unit);
+        break;
+    }
+    }
+}
+
+void ReceiveTree::addLines(Row& row) const
+{
+    const int count = m_set == ReceiveColumnSet::Arinc825Raw ? rawLineCount : receiveLineCount;
+    for (int line = 1; line < count; ++line) {
+        auto* item = new ReceiveLineItem(row.items[0], line);
+        item->setFont(m_payloadColumn, m_payloadFont);
+        if (line < receiveLineCount) {
+            row.items[static_cast<std::size_t>(line)] = item;
+        }
+    }
 }
 
 void ReceiveTree::paintDirtyRows(ReceiveTable& table, int numberType)
@@ -119,11 +200,12 @@ void ReceiveTree::paintDirtyRows(ReceiveTable& table, int numberType)
     }
     {
         const QSignalBlocker blocker(model());
-        setUpdatesEnabled(false);
+        // The viewport's alone: the header would be painted over windows that cover it.
+        viewport()->setUpdatesEnabled(false);
         for (const int index : table.dirtyRows()) {
-            paintRow(table.row(index), m_rows[static_cast<std::size_t>(index)], numberType);
+            paintRow(table, index, numberType);
         }
-        setUpdatesEnabled(true);
+        viewport()->setUpdatesEnabled(true);
     }
     table.clearDirty();
 }
@@ -134,22 +216,45 @@ void ReceiveTree::clearRows()
     m_rows.clear();
 }
 
-void ReceiveTree::paintRow(ReceiveRow& record, Row& row, int numberType)
+void ReceiveTree::formatRow(const ReceiveTable& table, int index, int numberType)
 {
-    receiveRowText(record, numberType, m_text);
+    const ReceiveRow& record = table.row(index);
+    switch (m_mode) {
+    case DisplayMode::Can:
+        receiveRowText(record, numberType, m_text);
+        break;
+    case DisplayMode::CanAerospace:
+        receiveCanAerospaceText(record, numberType, m_text);
+        break;
+    case DisplayMode::Arinc825Raw:
+        receiveRawText(record, numberType, m_text);
+        break;
+    case DisplayMode::Arinc825Profile:
+        receiveProfileText(record, table.parameter(index), ProfileStore::instance(), numberType,
+                           m_text);
+        break;
+    }
+}
+
+void ReceiveTree::paintRow(ReceiveTable& table, int index, int numberType)
+{
+    formatRow(table, index, numberType);
+    ReceiveRow& record = table.row(index);
+    Row& row = m_rows[static_cast<std::size_t>(index)];
     QTreeWidgetItem& top = *row.items[0];
-    setCell(top, ReceiveColumn::Count, m_text.count);
-    setCell(top, ReceiveColumn::Time, m_text.time);
-    setCell(top, ReceiveColumn::Id, m_text.id);
-    setCell(top, ReceiveColumn::Length, m_text.length);
+    for (std::size_t column = 0; column < mostReceiveColumns; ++column) {
+        if (m_text.isWritten[column]) {
+            setCell(top, static_cast<int>(column), m_text.cells[column]);
+        }
+    }
     if (m_text.hasLines) {
         paintLines(record, row);
     }
-    const Shown wanted = m_text.hasLines ? Shown::Frame : Shown::ErrorFrame;
+    const Shown wanted = m_text.isError ? Shown::ErrorFrame : Shown::Frame;
     if (row.shown != wanted) {
         row.shown = wanted;
-        const QColor& color = m_text.hasLines ? colors::normalText : colors::errorText;
-        for (int column = 0; column < receiveColumnCount; ++column) {
+        const QColor& color = m_text.isError ? colors::errorText : colors::normalText;
+        for (int column = 0; column < columnCount(); ++column) {
             top.setForeground(column, color);
         }
     }
@@ -166,7 +271,7 @@ void ReceiveTree::paintLines(ReceiveRow& record, Row& row) const
             row.lines = line + 1;
         }
         if (!isEmpty || line < before) {
-            setCell(*row.items[line], ReceiveColumn::Message, m_text.lines[line]);
+            setCell(*row.items[line], m_payloadColumn, m_text.lines[line]);
         }
     }
     const std::uint32_t byteCount = record.msg.byteCount();
@@ -190,7 +295,7 @@ void ReceiveTree::paintActivity(ReceiveRow& record, Row& row) const
     row.items[0]->setIcon(0, record.active ? m_alive : m_silent);
     const QColor& color = record.active ? colors::aliveRow : colors::silentRow;
     for (QTreeWidgetItem* item : row.items) {
-        for (int column = 0; column < receiveColumnCount; ++column) {
+        for (int column = 0; item != nullptr && column < columnCount(); ++column) {
             item->setBackground(column, color);
         }
     }

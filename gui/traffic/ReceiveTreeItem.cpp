@@ -1,13 +1,16 @@
 #include "gui/traffic/ReceiveTreeItem.h"
 
-#include "traffic/ReceiveRowText.h"
+#include "traffic/ReceiveOrder.h"
 
 #include <QHeaderView>
 #include <QTreeWidget>
 
 namespace gui {
 
-ReceiveTreeItem::ReceiveTreeItem(const ReceiveTable& table, int row) : m_table(table), m_row(row) {}
+ReceiveTreeItem::ReceiveTreeItem(const ReceiveTable& table, ReceiveColumnSet set, int row)
+    : m_table(table), m_set(set), m_row(row)
+{
+}
 
 ReceiveTreeItem::~ReceiveTreeItem() = default;
 
@@ -17,21 +20,7 @@ bool ReceiveTreeItem::operator<(const QTreeWidgetItem& other) const
     if (otherItem == nullptr || treeWidget() == nullptr) {
         return QTreeWidgetItem::operator<(other);
     }
-    const ReceiveRow& left = m_table.row(m_row);
-    const ReceiveRow& right = m_table.row(otherItem->m_row);
-    switch (static_cast<ReceiveColumn>(treeWidget()->sortColumn())) {
-    case ReceiveColumn::Count:
-        return left.count < right.count;
-    case ReceiveColumn::Time:
-        return left.msg.timeStampDouble() < right.msg.timeStampDouble();
-    case ReceiveColumn::Id:
-        return left.msg.id() < right.msg.id();
-    case ReceiveColumn::Length:
-        return left.msg.byteCount() < right.msg.byteCount();
-    case ReceiveColumn::Message:
-        return isPayloadLess(left.msg, right.msg);
-    }
-    return QTreeWidgetItem::operator<(other);
+    return isReceiveRowLess(m_table, m_set, treeWidget()->sortColumn(), m_row, otherItem->m_row);
 }
 
 ReceiveLineItem::ReceiveLineItem(QTreeWidgetItem* row, int line)

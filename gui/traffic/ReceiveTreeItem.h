@@ -1,5 +1,6 @@
 #pragma once
 
+#include "traffic/ReceiveColumns.h"
 #include "traffic/ReceiveTable.h"
 
 #include <QTreeWidgetItem>
@@ -11,14 +12,15 @@ namespace gui {
 class ReceiveTreeItem : public QTreeWidgetItem
 {
 public:
-    /// `table` outlives the item.
-    ReceiveTreeItem(const ReceiveTable& table, int row);
+    /// `table` outlives the item; `set` is the one that the tree shows.
+    ReceiveTreeItem(const ReceiveTable& table, ReceiveColumnSet set, int row);
     ~ReceiveTreeItem() override;
 
     bool operator<(const QTreeWidgetItem& other) const override;
 
 private:
     const ReceiveTable& m_table;
+    ReceiveColumnSet m_set;
     int m_row;
 };
 
@@ -26,7 +28,7 @@ private:
 class ReceiveLineItem : public QTreeWidgetItem
 {
 public:
-    /// `line` is 1 to 3.
+    /// `line` is 1 for the one right below.
     ReceiveLineItem(QTreeWidgetItem* row, int line);
     ~ReceiveLineItem() override;
 

@@ -226,15 +226,15 @@ TEST(ReceiveRowText, CellsOfADataFrame)
     ReceiveRowText text{};
     const ReceiveRow row = rowOf(MessageCan::EMsgMode::Extended, MessageCan::EFrameType::Data, 1);
     receiveRowText(row, 0, text);
-    EXPECT_STREQ(text.count, "12");
-    EXPECT_STREQ(text.time, "12.3457");
-    EXPECT_STREQ(text.id, "E 6844");
-    EXPECT_STREQ(text.length, "D1");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Count), "12");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Time), "12.3457");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Id), "E 6844");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Length), "D1");
     EXPECT_STREQ(text.lines[0], "  0-> 165");
     EXPECT_STREQ(text.lines[1], "");
     EXPECT_TRUE(text.hasLines);
     receiveRowText(row, 1, text);
-    EXPECT_STREQ(text.id, "E 0x1ABC");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Id), "E 0x1ABC");
     EXPECT_STREQ(text.lines[0], "  0-> $a5");
 }
 
@@ -243,8 +243,8 @@ TEST(ReceiveRowText, RemoteFrameAndModePrefixes)
     ReceiveRowText text{};
     receiveRowText(rowOf(MessageCan::EMsgMode::StandardFdBrs, MessageCan::EFrameType::Remote, 0), 0,
                    text);
-    EXPECT_STREQ(text.id, "SB 6844");
-    EXPECT_STREQ(text.length, "R0");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Id), "SB 6844");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Length), "R0");
     EXPECT_STREQ(text.lines[0], "");
 }
 
@@ -253,10 +253,10 @@ TEST(ReceiveRowText, ErrorFrameKeepsTheMessageColumn)
     ReceiveRowText text{};
     receiveRowText(rowOf(MessageCan::EMsgMode::Standard, MessageCan::EFrameType::Error, 8), 1,
                    text);
-    EXPECT_STREQ(text.id, "ERROR FRAME");
-    EXPECT_STREQ(text.length, "");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Id), "ERROR FRAME");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Length), "");
     EXPECT_FALSE(text.hasLines);
-    EXPECT_STREQ(text.count, "12");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Count), "12");
 }
 
 TEST(ReceiveRowText, LinesBelowTheFirstShowFrom17And33And49BytesOn)
@@ -277,9 +277,9 @@ TEST(ReceiveRowText, LongestValuesFitTheirCells)
     row.count = 0xFFFFFFFFU;
     ReceiveRowText text{};
     receiveRowText(row, 1, text);
-    EXPECT_STREQ(text.id, "EB 0xFFFFFFFF");
-    EXPECT_STREQ(text.time, "4294967296.0000");
-    EXPECT_STREQ(text.count, "-1");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Id), "EB 0xFFFFFFFF");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Time), "4294967296.0000");
+    EXPECT_STREQ(text.cell(ReceiveColumn::Count), "-1");
 }
 
 } // namespace
