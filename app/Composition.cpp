@@ -1,6 +1,7 @@
 #include "app/Composition.h"
 
 #include "comm/CanInterface.h"
+#include "gui/controls/Look.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -26,14 +27,9 @@ namespace {
 
 constexpr int iconExtent = 32; // pixels; icons are shown at half of it and more
 
-QIcon icon(const char* name)
-{
-    return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
-}
-
 ObjectTypeInfo withIcon(ObjectTypeInfo info, const char* name)
 {
-    info.icon = icon(name).pixmap(iconExtent);
+    info.icon = gui::icon(name).pixmap(iconExtent);
     return info;
 }
 
@@ -46,7 +42,7 @@ void registerMaker(ObjectType type, const char* typeTitle, const char* iconName,
         if (dialog != nullptr) {
             dialog->setTypeTitle(QLatin1String(typeTitle));
             dialog->setName(object.name());
-            dialog->setWindowIcon(icon(iconName));
+            dialog->setWindowIcon(gui::icon(iconName));
         }
         return dialog;
     });

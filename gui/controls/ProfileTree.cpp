@@ -1,5 +1,6 @@
 #include "gui/controls/ProfileTree.h"
 
+#include "gui/controls/Look.h"
 #include "profile/ProfileNumbers.h"
 
 #include <QTextDocument>
@@ -9,11 +10,6 @@ namespace gui {
 namespace {
 
 constexpr int leastHeight = 20; // pixels
-
-QIcon icon(const char* name)
-{
-    return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
-}
 
 QString parameterText(const ProfileParameter& parameter)
 {

@@ -4,6 +4,7 @@
 #include "core/Latin1.h"
 #include "core/SettingsStore.h"
 #include "core/Version.h"
+#include "gui/controls/Look.h"
 #include "gui/desktop/DialogProfile.h"
 #include "gui/desktop/DialogProfileResult.h"
 #include "gui/desktop/DialogProject.h"
@@ -71,7 +72,7 @@ DialogMain::DialogMain(std::vector<ObjectTypeInfo> types, QWidget* parent)
     m_profilePanel->setResultWindow(m_profileResult);
     m_profilePanel->check();
     applyFirstGeometry();
-    setWindowIcon(QIcon(QStringLiteral(":/icons/zul.svg")));
+    setWindowIcon(icon("zul"));
     updateTitle();
     m_recentFiles.load();
     m_heartbeat.setSingleShot(true);

@@ -2,6 +2,7 @@
 
 #include "comm/CanInterface.h"
 #include "core/Kernel.h"
+#include "gui/controls/Look.h"
 #include "gui/controls/WidgetLoad.h"
 #include "gui/desktop/BusStates.h"
 #include "gui/desktop/DialogInterfaceProperties.h"
@@ -49,9 +50,7 @@ QFont cellFont(const QFont& base, bool bold)
 } // namespace
 
 DialogProject::DialogProject(QWidget* parent)
-    : QWidget(parent),
-      m_loadTimer(new QTimer(this)),
-      m_groupIcon(QStringLiteral(":/icons/group.svg"))
+    : QWidget(parent), m_loadTimer(new QTimer(this)), m_groupIcon(icon("group"))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(2, 2, 2, 2);
@@ -74,12 +73,12 @@ QWidget* DialogProject::buildTools()
     auto* tools = new QWidget(this);
     auto* row = new QHBoxLayout(tools);
     row->setContentsMargins(0, 0, 0, 0);
-    const auto addButton = [&](const char* icon, const char* toolTip) {
+    const auto addButton = [&](const char* name, const char* toolTip) {
         auto* button = new QToolButton(tools);
-        button->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(icon))));
+        button->setIcon(icon(name));
         button->setIconSize(toolIconSize);
         button->setToolTip(QLatin1String(toolTip));
-        button->setObjectName(QLatin1String(icon));
+        button->setObjectName(QLatin1String(name));
         button->setAutoRaise(true);
         row->addWidget(button);
         return button;

@@ -1,5 +1,7 @@
 #include "gui/desktop/MainActions.h"
 
+#include "gui/controls/Look.h"
+
 #include <QAction>
 #include <QIcon>
 #include <QKeySequence>
@@ -50,7 +52,7 @@ MainActions::MainActions(QMainWindow& window)
         action->setShortcut(QKeySequence(QLatin1String(texts.shortcut)));
         action->setStatusTip(QLatin1String(texts.statusTip));
         if (*texts.icon != '\0') {
-            action->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(texts.icon))));
+            action->setIcon(icon(texts.icon));
         }
         window.addAction(action);
         m_actions[texts.id] = action;

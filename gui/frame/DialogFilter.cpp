@@ -1,6 +1,7 @@
 #include "gui/frame/DialogFilter.h"
 
 #include "gui/controls/Colors.h"
+#include "gui/controls/Look.h"
 #include "gui/controls/QwtPushButton.h"
 #include "gui/controls/QwtSpinBox.h"
 #include "gui/frame/QwtIdSelect.h"
@@ -44,7 +45,7 @@ QwtPushButton* makeButton(const char* text, const QColor& color, const char* obj
 DialogFilter::DialogFilter(QWidget* parent) : QDialog(parent)
 {
     setWindowTitle(QStringLiteral("Filter"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/filter-setup.svg")));
+    setWindowIcon(icon("filter-setup"));
     m_limit = buildLimit();
     m_single = buildSingle();
     auto* ok = new QPushButton(QStringLiteral("Ok"), this);

@@ -3,6 +3,7 @@
 #include "comm/BatchListeners.h"
 #include "core/Latin1.h"
 #include "gui/controls/Colors.h"
+#include "gui/controls/Look.h"
 #include "gui/controls/ProfileTree.h"
 #include "gui/controls/QwtPushButton.h"
 #include "profile/ProfileStore.h"
@@ -73,7 +74,7 @@ DialogSelectId::~DialogSelectId()
 void DialogSelectId::build()
 {
     setWindowTitle(QStringLiteral("Select Message"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/parameter.svg")));
+    setWindowIcon(icon("parameter"));
     setModal(true);
     m_arincTree->setObjectName(QStringLiteral("arincProfiles"));
     m_zorbTree->setObjectName(QStringLiteral("canAerospaceProfiles"));

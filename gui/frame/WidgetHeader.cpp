@@ -1,6 +1,7 @@
 #include "gui/frame/WidgetHeader.h"
 
 #include "core/Clock.h"
+#include "gui/controls/Look.h"
 #include "gui/frame/WidgetInterfaceSelect.h"
 #include "project/ObjectTypes.h"
 
@@ -27,11 +28,6 @@ void setForeground(QWidget& widget, const QColor& color)
     widget.setPalette(colors);
 }
 
-QIcon icon(const char* name)
-{
-    return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
-}
-
 } // namespace
 
 WidgetHeader::WidgetHeader(QWidget* parent)
@@ -46,7 +42,7 @@ WidgetHeader::WidgetHeader(QWidget* parent)
     buildFilter();
     addSeparator();
     m_setup = makeButton(QStringLiteral("Dialog Setup"), QStringLiteral("dialogSetup"));
-    m_setup->setIcon(icon("dialog-setup"));
+    m_setup->setIcon(gui::icon("dialog-setup"));
     m_numberFormat =
         makeButton(QStringLiteral("Decimal/Hex Display"), QStringLiteral("numberFormat"));
     addSeparator();
@@ -60,9 +56,7 @@ WidgetHeader::WidgetHeader(QWidget* parent)
 QLabel* WidgetHeader::makeCounter(const QString& toolTip, const QString& objectName)
 {
     auto* counter = new QLabel(QStringLiteral("0000"), this);
-    QFont font(QStringLiteral("Courier"));
-    font.setStyleHint(QFont::TypeWriter);
-    font.setPixelSize(counterFontPixels);
+    QFont font = gui::typewriterFont(counterFontPixels);
     font.setBold(true);
     counter->setFont(font);
     counter->setToolTip(toolTip);
@@ -98,7 +92,7 @@ void WidgetHeader::buildFilter()
         makeButton(QStringLiteral("Enable/Disable Filter"), QStringLiteral("filterSwitch"));
     m_filterSwitch->setToolButtonStyle(Qt::ToolButtonTextOnly);
     m_filterSetup = makeButton(QStringLiteral("Filter Setup"), QStringLiteral("filterSetup"));
-    m_filterSetup->setIcon(icon("filter-setup"));
+    m_filterSetup->setIcon(gui::icon("filter-setup"));
 }
 
 void WidgetHeader::buildCustomArea()
@@ -267,8 +261,8 @@ void WidgetHeader::refresh()
 {
     m_inputSelect->setInterface(m_inputInterface);
     m_outputSelect->setInterface(m_outputInterface);
-    m_inputSwitch->setIcon(icon(m_inputOn ? "input-on" : "input-off"));
-    m_outputSwitch->setIcon(icon(m_outputOn ? "output-on" : "output-off"));
+    m_inputSwitch->setIcon(gui::icon(m_inputOn ? "input-on" : "input-off"));
+    m_outputSwitch->setIcon(gui::icon(m_outputOn ? "output-on" : "output-off"));
     m_numberFormat->setText(m_numberType == hexadecimal ? QStringLiteral("Hex\n0x1")
                                                         : QStringLiteral("Dec\n123"));
     refreshFilter();

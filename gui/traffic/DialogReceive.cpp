@@ -3,6 +3,7 @@
 #include "core/Clock.h"
 #include "core/Latin1.h"
 #include "gui/controls/Colors.h"
+#include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
 #include "gui/frame/DialogFilter.h"
@@ -26,12 +27,6 @@ namespace gui {
 
 namespace {
 
-constexpr int minimumWidthPixels = 350;
-constexpr int clearButtonHeight = 22;
-constexpr int margin = 3;
-constexpr int firstWidth = 550;
-constexpr int firstHeight = 300;
-
 } // namespace
 
 DialogReceive::DialogReceive(ObjectReceive* object, QWidget* parent)
@@ -52,7 +47,7 @@ DialogReceive::~DialogReceive()
 
 QSize DialogReceive::sizeHint() const
 {
-    return {firstWidth, firstHeight};
+    return firstWindowSize;
 }
 
 void DialogReceive::build()
@@ -70,7 +65,7 @@ void DialogReceive::build()
     }
     auto* clear = new QwtPushButton(QStringLiteral("Clear"), colors::clear, this);
     clear->setObjectName(QStringLiteral("clear"));
-    clear->setFixedHeight(clearButtonHeight);
+    clear->setFixedHeight(lowButtonHeight);
     connect(clear, &QwtPushButton::clicked, this, &DialogReceive::slotClear);
     m_filterDialog = new DialogFilter(this);
     m_menu = new QMenu(this);
@@ -82,13 +77,13 @@ void DialogReceive::build()
     bottom->addStretch();
     bottom->addWidget(clear);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(margin);
+    layout->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+    layout->setSpacing(windowMargin);
     layout->addWidget(m_header);
     layout->addWidget(m_tree, 1);
     layout->addLayout(bottom);
-    setMinimumWidth(minimumWidthPixels);
-    resize(firstWidth, firstHeight);
+    setMinimumWidth(minimumWindowWidth);
+    resize(firstWindowSize);
 }
 
 void DialogReceive::connectControls()

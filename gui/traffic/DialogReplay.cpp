@@ -2,6 +2,7 @@
 
 #include "core/Clock.h"
 #include "gui/controls/BusyCursor.h"
+#include "gui/controls/Look.h"
 #include "gui/frame/FileDialogs.h"
 #include "gui/frame/WidgetHeader.h"
 #include "project/ObjectReplay.h"
@@ -21,10 +22,6 @@ namespace gui {
 
 namespace {
 
-constexpr int minimumWidthPixels = 350;
-constexpr int firstWidth = 550;
-constexpr int firstHeight = 300;
-constexpr int margin = 3;
 constexpr int playerMargin = 6;
 constexpr int loadButtonHeight = 30;
 constexpr int timeDigits = 12;
@@ -33,11 +30,6 @@ constexpr int timeHeight = 60;
 constexpr int playerColumns = 4;
 constexpr QColor timeColor(150, 255, 150);
 constexpr QColor timeBackground(0, 0, 0);
-
-QIcon icon(const char* name)
-{
-    return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
-}
 
 } // namespace
 
@@ -54,7 +46,7 @@ DialogReplay::~DialogReplay() = default;
 
 QSize DialogReplay::sizeHint() const
 {
-    return {firstWidth, firstHeight};
+    return firstWindowSize;
 }
 
 void DialogReplay::build()
@@ -64,14 +56,14 @@ void DialogReplay::build()
     QFrame* player = buildPlayer();
     buildPosition();
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(margin);
+    layout->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+    layout->setSpacing(windowMargin);
     layout->addWidget(m_header);
     layout->addWidget(player);
     layout->addWidget(m_time, 1);
     layout->addWidget(m_slider);
-    setMinimumWidth(minimumWidthPixels);
-    resize(firstWidth, firstHeight);
+    setMinimumWidth(minimumWindowWidth);
+    resize(firstWindowSize);
 }
 
 QFrame* DialogReplay::buildPlayer()

@@ -4,6 +4,7 @@
 #include "core/Latin1.h"
 #include "core/SettingsStore.h"
 #include "gui/controls/Colors.h"
+#include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
 #include "gui/frame/DialogFilter.h"
@@ -29,18 +30,8 @@ namespace gui {
 
 namespace {
 
-constexpr int minimumWidthPixels = 350;
-constexpr int clearButtonHeight = 22;
-constexpr int margin = 3;
-constexpr int firstWidth = 550;
-constexpr int firstHeight = 300;
 constexpr int statusFontPixels = 10;
 constexpr int shownFormatLetters = 8;
-
-QIcon icon(const char* name)
-{
-    return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
-}
 
 } // namespace
 
@@ -57,7 +48,7 @@ DialogTrace::~DialogTrace() = default;
 
 QSize DialogTrace::sizeHint() const
 {
-    return {firstWidth, firstHeight};
+    return firstWindowSize;
 }
 
 void DialogTrace::build()
@@ -74,15 +65,15 @@ void DialogTrace::build()
     m_view = new TraceView(this);
     m_view->setObjectName(QStringLiteral("traceView"));
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(margin);
+    layout->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+    layout->setSpacing(windowMargin);
     layout->addWidget(m_header);
     layout->addWidget(m_status);
     layout->addWidget(m_view, 1);
     buildBottom(*layout);
     m_filterDialog = new DialogFilter(this);
-    setMinimumWidth(minimumWidthPixels);
-    resize(firstWidth, firstHeight);
+    setMinimumWidth(minimumWindowWidth);
+    resize(firstWindowSize);
 }
 
 void DialogTrace::buildHeader()
@@ -116,7 +107,7 @@ void DialogTrace::buildBottom(QVBoxLayout& layout)
     }
     auto* clear = new QwtPushButton(QStringLiteral("Clear"), colors::clear, this);
     clear->setObjectName(QStringLiteral("clear"));
-    clear->setFixedHeight(clearButtonHeight);
+    clear->setFixedHeight(lowButtonHeight);
     connect(clear, &QwtPushButton::clicked, this, &DialogTrace::slotClear);
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(m_displayMode);

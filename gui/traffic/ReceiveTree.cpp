@@ -1,6 +1,7 @@
 #include "gui/traffic/ReceiveTree.h"
 
 #include "gui/controls/Colors.h"
+#include "gui/controls/Look.h"
 #include "gui/traffic/ReceiveTreeItem.h"
 #include "profile/ProfileNumbers.h"
 #include "profile/ProfileStore.h"
@@ -61,13 +62,11 @@ void setCell(QTreeWidgetItem& item, int column, const char* text)
 
 ReceiveTree::ReceiveTree(QWidget* parent)
     : QTreeWidget(parent),
-      m_alive(QStringLiteral(":/icons/alive.svg")),
-      m_silent(QStringLiteral(":/icons/silent.svg")),
-      m_payloadFont(QStringLiteral("Courier"))
+      m_alive(icon("alive")),
+      m_silent(icon("silent")),
+      m_payloadFont(typewriterFont(payloadFontPixels))
 {
-    m_payloadFont.setStyleHint(QFont::TypeWriter);
     m_payloadFont.setWeight(boldWeight);
-    m_payloadFont.setPixelSize(payloadFontPixels);
     setRootIsDecorated(true);
     setExpandsOnDoubleClick(false); // a double click asks for a dial
     setUniformRowHeights(true);

@@ -1,5 +1,7 @@
 #include "gui/traffic/TraceView.h"
 
+#include "gui/controls/Look.h"
+
 namespace gui {
 
 namespace {
@@ -10,10 +12,7 @@ constexpr int fontPixels = 11;
 
 TraceView::TraceView(QWidget* parent) : QPlainTextEdit(parent)
 {
-    QFont courier(QStringLiteral("Courier"));
-    courier.setStyleHint(QFont::TypeWriter);
-    courier.setPixelSize(fontPixels);
-    setFont(courier);
+    setFont(typewriterFont(fontPixels));
     setReadOnly(true);
     setUndoRedoEnabled(false);
     setWordWrapMode(QTextOption::NoWrap);
