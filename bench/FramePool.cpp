@@ -14,6 +14,7 @@ constexpr int poolFrames = 20'000;
 constexpr std::uint32_t spread = 26'113; // between identifiers, all of which fit into 29 bits
 constexpr std::uint32_t byteCount = 8;
 constexpr unsigned seed = 825;
+constexpr double secondsPerFrame = 0.000'113; // no round times: they are rounded the slow way
 
 std::vector<std::uint32_t> mixedIdentifiers(int count)
 {
@@ -40,7 +41,7 @@ FramePool::FramePool(int identifiers, int batchSize)
             frame->setId(ids[frames % ids.size()]);
             frame->setMode(zul::MessageCan::EMsgMode::Extended);
             frame->setByteCount(byteCount);
-            frame->setTimeStamp(1'000.0 + static_cast<double>(frames) * 0.0001);
+            frame->setTimeStamp(1'000.0 + static_cast<double>(frames) * secondsPerFrame);
             frame->msg()[0] = static_cast<std::uint8_t>(frames);
             batch.addMessage(SmartPtr<Message>(frame));
         }
