@@ -3,6 +3,7 @@
 #include "comm/CanInterface.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogStatus.h"
+#include "gui/traffic/DialogTransmit.h"
 #include "project/ObjectDial.h"
 #include "project/ObjectFunctionGen.h"
 #include "project/ObjectGraph.h"
@@ -75,6 +76,12 @@ void registerWindowMakers()
                   [](Object& object, QWidget* parent) -> gui::DialogBase* {
                       auto* receive = dynamic_cast<ObjectReceive*>(&object);
                       return receive != nullptr ? new gui::DialogReceive(receive, parent) : nullptr;
+                  });
+    registerMaker(ObjectType::Transmit, findObjectType(ObjectType::Transmit)->title, "transmit",
+                  [](Object& object, QWidget* parent) -> gui::DialogBase* {
+                      auto* transmit = dynamic_cast<ObjectTransmit*>(&object);
+                      return transmit != nullptr ? new gui::DialogTransmit(transmit, parent)
+                                                 : nullptr;
                   });
 }
 

@@ -320,6 +320,13 @@ int sliderPosition(const SendMsg& message)
     return std::isnan(position) ? 0 : static_cast<int>(std::clamp(position, 0.0F, steps));
 }
 
+int sliderPositionFrom(const SendMsg& message, int position)
+{
+    const bool isScale = message.min < message.max || message.max < message.min;
+    return isScale && actualAt(message, position) == message.actual ? position
+                                                                    : sliderPosition(message);
+}
+
 std::uint8_t serviceCode(const QString& text)
 {
     const NumberEntry entry = numberEntry(text.section(QLatin1Char(' '), 0, 0));

@@ -126,6 +126,10 @@ float actualAt(const SendMsg& message, int position);
 /// Where the slider stands for the message's `actual`, 0 to `sliderMaximum`; 0 if the limits are
 /// equal or no numbers.
 int sliderPosition(const SendMsg& message);
+/// The same for a slider that stands at `position`: it stays if `actual` is what it stands for
+/// there. What the slider has set often is one step lower by `sliderPosition`, and a key that goes
+/// up by one step would not get past it.
+int sliderPositionFrom(const SendMsg& message, int position);
 
 /// The service code of what was chosen or typed: the number before the first blank, its low byte.
 std::uint8_t serviceCode(const QString& text);

@@ -5,6 +5,7 @@
 #include "gui/frame/DialogBase.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogStatus.h"
+#include "gui/traffic/DialogTransmit.h"
 #include "project/Project.h"
 #include "project/WindowMakers.h"
 #include "tests/support/FixtureModules.h"
@@ -67,12 +68,18 @@ TEST_F(Composition, ReceiveObjectMakesAReceiveWindow)
     expectWindow<gui::DialogReceive>(ObjectType::Receive, "Receive Window");
 }
 
+TEST_F(Composition, TransmitObjectMakesATransmitWindow)
+{
+    expectWindow<gui::DialogTransmit>(ObjectType::Transmit, "Transmit Window");
+}
+
 TEST_F(Composition, EveryTypeHasAnIconAndThoseWithoutAWindowMakeNone)
 {
     EXPECT_EQ(m_project.types().size(), 10U);
     for (const auto& [type, info] : m_project.types()) {
         EXPECT_FALSE(info.icon.isNull()) << static_cast<int>(type);
-        if (type != ObjectType::CanInterface && type != ObjectType::Receive) {
+        if (type != ObjectType::CanInterface && type != ObjectType::Receive &&
+            type != ObjectType::Transmit) {
             EXPECT_EQ(windowOf(*m_project.createObject(type)), nullptr) << static_cast<int>(type);
         }
     }

@@ -364,6 +364,25 @@ TEST(CanAerospaceEntry, SliderPositionIsTruncatedAndBounded)
     EXPECT_EQ(sliderPosition(message), 250);
 }
 
+TEST(CanAerospaceEntry, SliderStaysWhereItHasSetTheValue)
+{
+    SendMsg message;
+    message.min = -90.0F;
+    message.max = 90.0F;
+    int lower = 0;
+    for (int position = 0; position <= sliderMaximum; ++position) {
+        message.actual = actualAt(message, position);
+        EXPECT_EQ(sliderPositionFrom(message, position), position);
+        lower += sliderPosition(message) < position ? 1 : 0;
+    }
+    EXPECT_GT(lower, 0); // what it is for
+    message.actual = 45.0F;
+    EXPECT_EQ(sliderPositionFrom(message, 0), 750);
+    message.max = message.min;
+    message.actual = message.min;
+    EXPECT_EQ(sliderPositionFrom(message, 400), 0);
+}
+
 TEST(CanAerospaceEntry, LimitsThatMakeNoScaleGiveDefinedResults)
 {
     const float nan = std::numeric_limits<float>::quiet_NaN();
