@@ -6,6 +6,7 @@
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
 #include "gui/traffic/DialogTrace.h"
+#include "gui/traffic/DialogTransmit.h"
 #include "project/ObjectDial.h"
 #include "project/ObjectFunctionGen.h"
 #include "project/ObjectGraph.h"
@@ -18,8 +19,6 @@
 #include "project/WindowMakers.h"
 
 #include <QIcon>
-
-#include <functional>
 
 namespace app {
 
@@ -34,18 +33,26 @@ ObjectTypeInfo withIcon(ObjectTypeInfo info, const char* name)
 }
 
 // Every window gets its type's title and its object's name in one place.
-void registerMaker(ObjectType type, const char* typeTitle, const char* iconName,
-                   const std::function<gui::DialogBase*(Object&, QWidget*)>& make)
+template <typename Window, typename WindowedObject = Object>
+void registerMaker(ObjectType type, const char* typeTitle, const char* iconName)
 {
     WindowMakers::instance().set(type, [=](Object& object, QWidget* parent) -> ObjectWindow* {
-        gui::DialogBase* dialog = make(object, parent);
-        if (dialog != nullptr) {
-            dialog->setTypeTitle(QLatin1String(typeTitle));
-            dialog->setName(object.name());
-            dialog->setWindowIcon(gui::icon(iconName));
+        auto* windowed = dynamic_cast<WindowedObject*>(&object);
+        if (windowed == nullptr) {
+            return nullptr;
         }
+        auto* dialog = new Window(windowed, parent);
+        dialog->setTypeTitle(QLatin1String(typeTitle));
+        dialog->setName(object.name());
+        dialog->setWindowIcon(gui::icon(iconName));
         return dialog;
     });
+}
+
+template <typename Window, typename WindowedObject>
+void registerMaker(ObjectType type, const char* iconName)
+{
+    registerMaker<Window, WindowedObject>(type, findObjectType(type)->title, iconName);
 }
 
 } // namespace
@@ -66,24 +73,11 @@ std::vector<ObjectTypeInfo> objectTypeInfos()
 
 void registerWindowMakers()
 {
-    registerMaker(
-        ObjectType::CanInterface, statusType.title, "status",
-        [](Object& object, QWidget* parent) { return new gui::DialogStatus(&object, parent); });
-    registerMaker(ObjectType::Receive, findObjectType(ObjectType::Receive)->title, "receive",
-                  [](Object& object, QWidget* parent) -> gui::DialogBase* {
-                      auto* receive = dynamic_cast<ObjectReceive*>(&object);
-                      return receive != nullptr ? new gui::DialogReceive(receive, parent) : nullptr;
-                  });
-    registerMaker(ObjectType::Trace, findObjectType(ObjectType::Trace)->title, "trace",
-                  [](Object& object, QWidget* parent) -> gui::DialogBase* {
-                      auto* trace = dynamic_cast<ObjectTrace*>(&object);
-                      return trace != nullptr ? new gui::DialogTrace(trace, parent) : nullptr;
-                  });
-    registerMaker(ObjectType::Replay, findObjectType(ObjectType::Replay)->title, "replay",
-                  [](Object& object, QWidget* parent) -> gui::DialogBase* {
-                      auto* replay = dynamic_cast<ObjectReplay*>(&object);
-                      return replay != nullptr ? new gui::DialogReplay(replay, parent) : nullptr;
-                  });
+    registerMaker<gui::DialogStatus>(ObjectType::CanInterface, statusType.title, "status");
+    registerMaker<gui::DialogReceive, ObjectReceive>(ObjectType::Receive, "receive");
+    registerMaker<gui::DialogTransmit, ObjectTransmit>(ObjectType::Transmit, "transmit");
+    registerMaker<gui::DialogTrace, ObjectTrace>(ObjectType::Trace, "trace");
+    registerMaker<gui::DialogReplay, ObjectReplay>(ObjectType::Replay, "replay");
 }
 
 } // namespace app

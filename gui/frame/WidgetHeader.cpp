@@ -1,6 +1,7 @@
 #include "gui/frame/WidgetHeader.h"
 
 #include "core/Clock.h"
+#include "gui/controls/Colors.h"
 #include "gui/controls/Look.h"
 #include "gui/frame/WidgetInterfaceSelect.h"
 #include "project/ObjectTypes.h"
@@ -12,9 +13,7 @@
 
 namespace {
 
-constexpr QColor activeColor(0, 150, 0);
 constexpr QColor filterColor(240, 140, 0);
-constexpr QColor idleColor(150, 150, 150);
 
 constexpr int counterFontPixels = 10;
 constexpr int filterFontPixels = 12;
@@ -277,15 +276,17 @@ void WidgetHeader::refreshFilter()
     m_filterSwitch->setFont(font);
     m_filterSwitch->setText(m_filterOn ? QStringLiteral("Filter on")
                                        : QStringLiteral("Filter off"));
-    setForeground(*m_filterSwitch, m_filterOn ? filterColor : idleColor);
+    setForeground(*m_filterSwitch, m_filterOn ? filterColor : gui::colors::idleText);
 }
 
 void WidgetHeader::refreshCounters()
 {
     if (m_paletteDirty) {
         m_paletteDirty = false;
-        setForeground(*m_inputCounter, m_input.isLit() ? activeColor : idleColor);
-        setForeground(*m_outputCounter, m_output.isLit() ? activeColor : idleColor);
+        setForeground(*m_inputCounter,
+                      m_input.isLit() ? gui::colors::activeText : gui::colors::idleText);
+        setForeground(*m_outputCounter,
+                      m_output.isLit() ? gui::colors::activeText : gui::colors::idleText);
     }
     m_inputCounter->setText(m_input.text());
     m_outputCounter->setText(m_output.text());

@@ -7,6 +7,7 @@
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
 #include "gui/traffic/DialogTrace.h"
+#include "gui/traffic/DialogTransmit.h"
 #include "project/Project.h"
 #include "project/WindowMakers.h"
 #include "tests/support/FixtureModules.h"
@@ -80,10 +81,16 @@ TEST_F(Composition, ReplayObjectMakesAReplayWindow)
     expectWindow<gui::DialogReplay>(ObjectType::Replay, "Replay Window");
 }
 
+TEST_F(Composition, TransmitObjectMakesATransmitWindow)
+{
+    expectWindow<gui::DialogTransmit>(ObjectType::Transmit, "Transmit Window");
+}
+
 TEST_F(Composition, EveryTypeHasAnIconAndThoseWithoutAWindowMakeNone)
 {
     const std::set<ObjectType> withWindow{ObjectType::CanInterface, ObjectType::Receive,
-                                          ObjectType::Trace, ObjectType::Replay};
+                                          ObjectType::Trace, ObjectType::Replay,
+                                          ObjectType::Transmit};
     EXPECT_EQ(m_project.types().size(), 10U);
     for (const auto& [type, info] : m_project.types()) {
         EXPECT_FALSE(info.icon.isNull()) << static_cast<int>(type);

@@ -1,0 +1,163 @@
+#include "gui/traffic/TransmitTable.h"
+
+#include "gui/controls/Colors.h"
+#include "gui/traffic/MessageEditor.h"
+#include "gui/traffic/QwtTransmitButton.h"
+#include "project/SendMsg.h"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace gui {
+
+namespace {
+
+constexpr int sideWidth = 80; // of the columns beside the messages, in pixels
+constexpr int rowsAhead = 4;  // that get their controls before they come into view
+
+} // namespace
+
+TransmitTable::TransmitTable(QWidget* parent) : QTableWidget(parent)
+{
+    qRegisterMetaType<SendMsg*>("SendMsg*");
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Highlight, colors::selectedRow);
+    colors.setColor(QPalette::HighlightedText, Qt::black);
+    setPalette(colors);
+    verticalHeader()->hide();
+    const auto rowsMoved = QOverload<>::of(&TransmitTable::requestControls);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, rowsMoved);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, rowsMoved);
+}
+
+void TransmitTable::startOver()
+{
+    // An editor that loses the focus on its way out must not give back a line that has gone.
+    for (int row = 0; row < rowCount(); ++row) {
+        if (MessageEditor* leaving = editor(row)) {
+            leaving->blockSignals(true);
+        }
+        if (QWidget* button = cellWidget(row, TransmitColumn)) {
+            button->blockSignals(true);
+        }
+    }
+    m_isComplete.clear();
+    clear();
+    setRowCount(0);
+    setColumnCount(columnTotal);
+    setHorizontalHeaderLabels(
+        {QStringLiteral("Name"), QStringLiteral("Message"), QStringLiteral("Transmit")});
+    setColumnWidth(NameColumn, sideWidth);
+    setColumnWidth(TransmitColumn, sideWidth);
+    horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Interactive);
+    horizontalHeader()->setSectionResizeMode(MessageColumn, QHeaderView::Stretch);
+    m_messageWidth = 0;
+}
+
+int TransmitTable::appendLine(SendMsg* line)
+{
+    const int row = rowCount();
+    insertRow(row);
+    m_isComplete.push_back(false);
+    auto* item = new QTableWidgetItem(line->name);
+    QFont bold = item->font();
+    bold.setBold(true);
+    item->setFont(bold);
+    item->setData(Qt::UserRole, QVariant::fromValue(line));
+    setItem(row, NameColumn, item);
+    return row;
+}
+
+void TransmitTable::requestControls()
+{
+    if (m_isFilling) {
+        return; // controls that come in move rows
+    }
+    const QScopedValueRollback<bool> guard(m_isFilling, true);
+    for (int row = 0; row < std::min(firstRows, rowCount()); ++row) {
+        requestControls(row);
+    }
+    const int top = rowAt(0);
+    if (top < 0) {
+        return; // no rows, or still scrolled to where rows were
+    }
+    int ahead = rowsAhead; // rows to go below the view
+    for (int row = std::max(top - rowsAhead, 0); row < rowCount() && ahead > 0; ++row) {
+        requestControls(row);
+        ahead -= rowViewportPosition(row) >= viewport()->height() ? 1 : 0;
+    }
+}
+
+void TransmitTable::requestControls(int row)
+{
+    const auto place = static_cast<std::size_t>(row);
+    if (place < m_isComplete.size() && !m_isComplete[place]) {
+        m_isComplete[place] = true;
+        emit signalControlsWanted(row);
+    }
+}
+
+void TransmitTable::setEditor(int row, MessageEditor* editor, int width)
+{
+    setCellWidget(row, MessageColumn, editor);
+    m_messageWidth = std::max(
+        {m_messageWidth, width, editor->minimumWidth(), editor->minimumSizeHint().width()});
+    fitColumns();
+}
+
+void TransmitTable::setButton(int row, QwtTransmitButton* button)
+{
+    setCellWidget(row, TransmitColumn, button);
+}
+
+MessageEditor* TransmitTable::editor(int row) const
+{
+    return qobject_cast<MessageEditor*>(cellWidget(row, MessageColumn));
+}
+
+std::set<int> TransmitTable::selectedRows() const
+{
+    std::set<int> rows;
+    for (const QModelIndex& index : selectedIndexes()) {
+        rows.insert(index.row());
+    }
+    return rows;
+}
+
+SendMsg* TransmitTable::lineOf(const QTableWidgetItem& item)
+{
+    return item.data(Qt::UserRole).value<SendMsg*>();
+}
+
+void TransmitTable::resizeEvent(QResizeEvent* event)
+{
+    QTableWidget::resizeEvent(event);
+    fitColumns();
+    requestControls();
+}
+
+// A column that stretches is as narrow as the window is, and its editors would be cut.
+void TransmitTable::fitColumns()
+{
+    if (columnCount() != columnTotal) {
+        return;
+    }
+    const int room = viewport()->width() - columnWidth(NameColumn) - columnWidth(TransmitColumn);
+    const bool isWide = room >= m_messageWidth;
+    const auto mode = isWide ? QHeaderView::Stretch : QHeaderView::Interactive;
+    if (horizontalHeader()->sectionResizeMode(MessageColumn) != mode) {
+        horizontalHeader()->setSectionResizeMode(MessageColumn, mode);
+    }
+    if (!isWide) {
+        setColumnWidth(MessageColumn, m_messageWidth);
+    }
+}
+
+} // namespace gui
