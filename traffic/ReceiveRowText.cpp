@@ -6,7 +6,6 @@
 #include "traffic/MessageModes.h"
 
 #include <algorithm>
-#include <cstring>
 
 using zul::MessageCan;
 
@@ -94,7 +93,7 @@ void receiveCanAerospaceText(const ReceiveRow& row, int numberType, ReceiveRowTe
     text.hasLines = true;
     zul::canAerospaceLine(text.lines[0], ReceiveRowText::lineCapacity, row.msg, numberType);
     for (int line = 1; line < receiveLineCount; ++line) {
-        std::strcpy(text.lines[line], text.lines[0]);
+        TextWriter(text.lines[line], ReceiveRowText::lineCapacity).append(text.lines[0]);
     }
 }
 

@@ -47,8 +47,11 @@ protected:
     {
         std::vector<int> rows(static_cast<std::size_t>(table.rowCount()));
         std::iota(rows.begin(), rows.end(), 0);
-        std::stable_sort(rows.begin(), rows.end(), [&](int left, int right) {
+        const auto isLess = [&](int left, int right) {
             return isReceiveRowLess(table, set, static_cast<int>(column), left, right);
+        };
+        std::sort(rows.begin(), rows.end(), [&](int left, int right) {
+            return isLess(left, right) || (!isLess(right, left) && left < right);
         });
         return rows;
     }
