@@ -49,6 +49,9 @@ inline constexpr std::array<MessageModeTexts, 6> messageModes{{
     {5, "29 Bit BRS", "EB", 29, true, true},
 }};
 
+/// What stands for the identifier of an error frame.
+inline constexpr const char* errorFrameText = "ERROR FRAME";
+
 /// The prefix of the mode, empty for a mode that is none of the six.
 const char* messageModePrefix(std::uint32_t mode);
 

@@ -33,8 +33,6 @@ void begin(const MessageCan& frame, ReceiveRowText& text)
     text.hasLines = false;
 }
 
-constexpr const char* errorFrameText = "ERROR FRAME";
-
 void writeLines(const MessageCan& frame, int numberType, ReceiveRowText& text)
 {
     text.hasLines = true;

@@ -151,6 +151,9 @@ void ReceiveTable::takeFrame(int index, const MessageCan& frame, double now)
         noteSighting(index, now);
         m_lastTimes[static_cast<std::size_t>(index)] = now;
     }
+    if (taken.count == 0) {
+        taken.firstId = frame.id();
+    }
     taken.msg = frame;
     taken.active = true;
     taken.lastTime = now;

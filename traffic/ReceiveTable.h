@@ -19,11 +19,12 @@ struct ReceiveRow
 {
     static constexpr std::uint32_t neverShown = 99;
 
-    double lastTime = 0.0;    ///< application clock at the last frame, seconds
-    std::uint32_t count = 0;  ///< frames that the row got
-    bool active = true;       ///< a frame came within the last 0.5 s
-    bool shownActive = false; ///< the `active` that the screen shows
-    bool dirty = false;       ///< waits for its repaint
+    double lastTime = 0.0;     ///< application clock at the last frame, seconds
+    std::uint32_t count = 0;   ///< frames that the row got
+    std::uint32_t firstId = 0; ///< identifier of the frame that made the row
+    bool active = true;        ///< a frame came within the last 0.5 s
+    bool shownActive = false;  ///< the `active` that the screen shows
+    bool dirty = false;        ///< waits for its repaint
     /// Byte count for which the lines below the first were last hidden or shown.
     std::uint32_t shownByteCount = neverShown;
     /// Rows right behind this one that take the same frames; counted in the first of them alone.

@@ -19,8 +19,8 @@ using zul::MessageCan;
 namespace {
 
 constexpr auto decimal = static_cast<std::int32_t>(NumberType::Decimal);
-constexpr const char* errorText = "ERROR FRAME";
-constexpr const char* errorMarkup = "<b><font color=\"#AA0000\"> ERROR FRAME</font></b><br>";
+constexpr const char* errorMarkupBegin = "<b><font color=\"#AA0000\"> ";
+constexpr const char* errorMarkupEnd = "</font></b><br>";
 
 // As "%0*x" or, with the letters of `alphabet`, "%0*X".
 void appendHexadecimal(TextWriter& text, std::uint32_t number, unsigned width, const char* alphabet)
@@ -183,7 +183,7 @@ void appendTraceFileLine(std::string& text, const MessageCan& frame, std::uint32
 {
     if (frame.frameType() == MessageCan::EFrameType::Error) {
         appendStart(text, frame, number);
-        text += errorText;
+        text += errorFrameText;
         return;
     }
     appendLine(text, frame, number, traceFormat, numberType, store);
@@ -195,7 +195,9 @@ void appendTraceScreenLine(std::string& text, const MessageCan& frame, std::uint
 {
     if (frame.frameType() == MessageCan::EFrameType::Error) {
         appendStart(text, frame, number);
-        text += errorMarkup;
+        text += errorMarkupBegin;
+        text += errorFrameText;
+        text += errorMarkupEnd;
         return;
     }
     const std::size_t start = text.size();

@@ -135,8 +135,19 @@ void ReceiveTree::setCellFonts(QTreeWidgetItem& item) const
 
 void ReceiveTree::addMissingRows(const ReceiveTable& table, int numberType)
 {
+    if (static_cast<int>(m_rows.size()) == table.rowCount()) {
+        return;
+    }
+    // Rows are sorted in once, at the end: hiding a line would else sort all of them each time.
+    const bool isSorted = sortColumn() >= 0;
+    if (isSorted) {
+        setSortingEnabled(false);
+    }
     for (int i = static_cast<int>(m_rows.size()); i < table.rowCount(); ++i) {
         addRow(table, i, numberType);
+    }
+    if (isSorted) {
+        setSortingEnabled(true);
     }
 }
 
@@ -159,7 +170,7 @@ void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType)
 void ReceiveTree::addNames(const ReceiveTable& table, int index, int numberType,
                            QTreeWidgetItem& top) const
 {
-    const std::uint32_t id = table.row(index).msg.id();
+    const std::uint32_t id = table.row(index).firstId;
     switch (m_set) {
     case ReceiveColumnSet::Can:
         top.setText(static_cast<int>(ReceiveColumn::Id),
@@ -274,7 +285,7 @@ void ReceiveTree::paintLines(ReceiveRow& record, Row& row) const
         }
     }
     const std::uint32_t byteCount = record.msg.byteCount();
-    if (byteCount == record.shownByteCount) {
+    if (byteCount == record.shownByteCount && row.shown != Shown::Nothing) {
         return;
     }
     record.shownByteCount = byteCount;

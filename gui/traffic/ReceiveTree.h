@@ -25,6 +25,11 @@ public:
     void addMissingRows(const ReceiveTable& table, int numberType);
     /// Paints the dirty rows and clears their marks; a cell is written only if its text differs.
     void paintDirtyRows(ReceiveTable& table, int numberType);
+    /// Whether the column is to be sorted by what it shows: words, not numbers.
+    bool isPlainText(int column) const
+    {
+        return m_mode == DisplayMode::CanAerospace && column == m_payloadColumn;
+    }
     /// Removes all items.
     void clearRows();
 

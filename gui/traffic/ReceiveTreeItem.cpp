@@ -1,5 +1,6 @@
 #include "gui/traffic/ReceiveTreeItem.h"
 
+#include "gui/traffic/ReceiveTree.h"
 #include "traffic/ReceiveOrder.h"
 
 #include <QHeaderView>
@@ -20,7 +21,17 @@ bool ReceiveTreeItem::operator<(const QTreeWidgetItem& other) const
     if (otherItem == nullptr || treeWidget() == nullptr) {
         return QTreeWidgetItem::operator<(other);
     }
-    return isReceiveRowLess(m_table, m_set, treeWidget()->sortColumn(), m_row, otherItem->m_row);
+    const int column = treeWidget()->sortColumn();
+    const QString shown = text(column);
+    const QString otherShown = other.text(column);
+    if (shown.isEmpty() || otherShown.isEmpty()) { // an error frame may have emptied the cell
+        return shown.isEmpty() && !otherShown.isEmpty();
+    }
+    const auto* tree = dynamic_cast<const ReceiveTree*>(treeWidget());
+    if (tree != nullptr && tree->isPlainText(column)) {
+        return shown < otherShown;
+    }
+    return isReceiveRowLess(m_table, m_set, column, m_row, otherItem->m_row);
 }
 
 ReceiveLineItem::ReceiveLineItem(QTreeWidgetItem* row, int line)

@@ -221,6 +221,19 @@ TEST(QwtBarItem, SmoothsTheRateAndFloorsTheMaximum)
     EXPECT_EQ(bar.grab().toImage().pixelColor(95, 2), QColor(220, 255, 220));
 }
 
+TEST(QwtBarItem, BarIsAsWideAsItsShareOfTheMaximum)
+{
+    zul::test::SettableClock clock(100.0);
+    QwtBarItem bar;
+    bar.resize(200, 20);
+    clock.advance(1.0);
+    bar.setValue(130.0, 400);
+    ASSERT_NEAR(bar.rate(), 100.0, 1e-4);
+    const QImage image = bar.grab().toImage();
+    EXPECT_EQ(image.pixelColor(48, 1), QColor(100, 200, 100));
+    EXPECT_EQ(image.pixelColor(51, 1), QColor(Qt::white));
+}
+
 TEST(QwtBarItem, SmoothsOverTheTimeSinceTheLastCall)
 {
     zul::test::SettableClock clock(100.0);

@@ -276,6 +276,7 @@ TEST_F(ReceiveModes, RawRowHasAFourthEmptyLineAlways)
         EXPECT_FALSE(top.child(line)->text(6).isEmpty());
         EXPECT_EQ(top.child(line)->background(0).color(), green);
     }
+    EXPECT_EQ(top.child(3)->background(0).style(), Qt::NoBrush) << "it is none of the row's lines";
     feed(batchOf(pitchKey, 8));
     ASSERT_TRUE(painted(0, "2"));
     for (const auto order : {Qt::DescendingOrder, Qt::AscendingOrder}) {
@@ -498,6 +499,37 @@ TEST_F(ReceiveModes, ParameterRowsSortByTheirValues)
         order += texts(i)[3];
     }
     EXPECT_EQ(order, QStringLiteral("CCAABB"));
+}
+
+TEST_F(ReceiveModes, DialGetsTheIdentifierOfTheFrameThatMadeTheRow)
+{
+    choose(profile);
+    MessageContainer batch = batchOf(pitchKey, 8);
+    auto* later = new MessageCan;
+    later->setId(pitchKey | 0x40000U);
+    batch.addMessage(SmartPtr<Message>(later));
+    feed(std::move(batch));
+    ASSERT_EQ(m_tree->topLevelItemCount(), 2) << "two parameters, and both frames are theirs";
+    for (int row = 0; row < 2; ++row) {
+        EXPECT_EQ(m_tree->topLevelItem(row)->data(0, 256).toUInt(), pitchKey);
+    }
+}
+
+TEST_F(ReceiveModes, CanAerospaceLinesSortByWhatTheyShow)
+{
+    choose(canAerospace);
+    feed(batchOf(1800, 8)); // of a later class, with a smaller first byte
+    MessageContainer batch = batchOf(300, 8);
+    feed(std::move(batch));
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return m_tree->topLevelItemCount() == 2 && !m_tree->topLevelItem(1)->text(4).isEmpty();
+    }));
+    for (const auto order : {Qt::DescendingOrder, Qt::AscendingOrder}) {
+        m_tree->sortByColumn(4, order);
+        const bool isAscending =
+            m_tree->topLevelItem(0)->text(4) < m_tree->topLevelItem(1)->text(4);
+        EXPECT_EQ(isAscending, order == Qt::AscendingOrder);
+    }
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "gui/controls/QwtComboBox.h"
+#include "gui/frame/DialogFilter.h"
 #include "gui/frame/MessageGuiDialog.h"
 #include "gui/frame/WidgetHeader.h"
 #include "gui/frame/WidgetInterfaceSelect.h"
@@ -8,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QTimer>
 
 // What the Receive window paints, and what its controls, its menu and its double click do.
@@ -118,6 +120,24 @@ TEST_F(ReceiveWindow, ChangeOfTheNumberTypeRepaintsAllRowsAtOnce)
     }
     click("numberFormat");
     EXPECT_EQ(column(2), decimal);
+}
+
+TEST_F(ReceiveWindow, PaintsEvery100MillisecondsByATimerThatRunsOnce)
+{
+    auto* timer = m_dialog->findChild<QTimer*>();
+    EXPECT_TRUE(timer->isSingleShot());
+    EXPECT_EQ(timer->interval(), 100);
+    const QSignalSpy turns(timer, &QTimer::timeout);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return turns.count() >= 2; })) << "it is started again";
+}
+
+TEST_F(ReceiveWindow, LinesOfAFrameThatClaims99BytesAreShown)
+{
+    feed(batchOf(0x1F, 99));
+    ASSERT_TRUE(paintedRow(0x1F));
+    for (int line = 0; line < 3; ++line) {
+        EXPECT_FALSE(row(0x1F)->child(line)->isHidden());
+    }
 }
 
 TEST_F(ReceiveWindow, TextOfTheNewRowGoesWithTheFirstPainting)
@@ -352,6 +372,7 @@ TEST_F(ReceiveWindow, WhileTheControlsAreFedTheirSignalsAreIgnoredButTheInterfac
         ++fed; // within the update
         emit m_header->signalInputOn(false);
         emit m_header->signalFilterOn(true);
+        emit m_header->signalFilterSetup();
         emit m_mode->signalActivated(0);
         click("clear");
         EXPECT_FALSE(m_project.isEdited());
@@ -361,6 +382,7 @@ TEST_F(ReceiveWindow, WhileTheControlsAreFedTheirSignalsAreIgnoredButTheInterfac
     ASSERT_EQ(fed, 1);
     EXPECT_TRUE(settings.inputOn);
     EXPECT_FALSE(m_object->filter().isOn());
+    EXPECT_FALSE(m_dialog->findChild<gui::DialogFilter*>()->isVisible());
     EXPECT_EQ(m_tree->topLevelItemCount(), 1);
     EXPECT_EQ(settings.inputInterface, QStringLiteral("Tail"));
     EXPECT_TRUE(m_project.isEdited());
@@ -416,6 +438,48 @@ TEST_F(ReceiveSorting, EveryColumnSortsByItsNumbers)
     expectOrder(2, {one, two, three});
     expectOrder(3, {two, three, one}); // 8, 12, 16 bytes
     expectOrder(4, {two, three, one}); // first byte 9, 30, 200
+}
+
+TEST_F(ReceiveSorting, RowThatComesWhileTheTreeIsSortedStandsInItsPlaceWithItsLinesHidden)
+{
+    m_tree->sortByColumn(2, Qt::DescendingOrder);
+    feed(batchOf(4, 8));
+    feed(batchOf(0, 8));
+    ASSERT_TRUE(paintedRow(0));
+    QStringList order;
+    for (const char* id : {"S 4", "S 3", "S 2", "S 1", "S 0"}) {
+        order.append(QLatin1String(id));
+    }
+    EXPECT_EQ(column(2), order);
+    for (int line = 0; line < 3; ++line) {
+        EXPECT_TRUE(row(4)->child(line)->isHidden());
+    }
+}
+
+TEST_F(ReceiveSorting, NewRowsOfOneBatchAreSortedInAtOnce)
+{
+    m_tree->sortByColumn(2, Qt::DescendingOrder);
+    MessageContainer batch;
+    for (std::uint32_t id = 10; id < 110; ++id) {
+        batch.addMessage(SmartPtr<Message>(new MessageCan(frame(id, 8, 1.0, 0))));
+    }
+    const QSignalSpy sorts(m_tree->model(), &QAbstractItemModel::layoutChanged);
+    batch.setSrcDest("Nose");
+    feed(std::move(batch));
+    EXPECT_LE(sorts.count(), 2);
+    ASSERT_TRUE(paintedRow(109));
+    EXPECT_EQ(column(2).constFirst(), QStringLiteral("S 109"));
+}
+
+TEST_F(ReceiveSorting, RowsStayInTheirPlacesWhileValuesChange)
+{
+    m_tree->sortByColumn(0, Qt::AscendingOrder);
+    const QStringList before = column(2);
+    const QSignalSpy changes(m_tree->model(), &QAbstractItemModel::dataChanged);
+    feedTimes(30, frame(3, 12, 9.0, 30));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return row(3)->text(0) == QStringLiteral("31"); }));
+    EXPECT_EQ(column(2), before);
+    EXPECT_EQ(changes.count(), 0) << "the model is silent while rows are painted";
 }
 
 TEST_F(ReceiveSorting, MessagesSortAlsoByBytesThatStandOnTheLinesBelow)
