@@ -31,7 +31,9 @@ namespace {
 
 constexpr int minimumWidthPixels = 400;
 constexpr int margin = 3;
-constexpr int firstWidth = 720;
+constexpr int firstWidth = 890; // all columns are in view
+constexpr int leastFirstWidth = 720;
+constexpr int panelsWidth = 300; // of the main window, beside its tool windows
 constexpr int firstHeight = 350;
 
 /// How a line stands in its row, by the display mode.
@@ -86,7 +88,8 @@ DialogTransmit::~DialogTransmit()
 
 QSize DialogTransmit::sizeHint() const
 {
-    return {firstWidth, firstHeight};
+    const int room = mainWindow() != nullptr ? mainWindow()->width() - panelsWidth : firstWidth;
+    return {std::clamp(room, leastFirstWidth, firstWidth), firstHeight};
 }
 
 void DialogTransmit::build()
@@ -128,7 +131,7 @@ void DialogTransmit::build()
     layout->addWidget(m_table, 1);
     layout->addLayout(bottom);
     setMinimumWidth(minimumWidthPixels);
-    resize(firstWidth, firstHeight);
+    resize(DialogTransmit::sizeHint());
 }
 
 QPushButton* DialogTransmit::makeButton(const char* text, const char* objectName,

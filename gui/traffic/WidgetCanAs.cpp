@@ -52,7 +52,7 @@ WidgetCanAs::WidgetCanAs(QWidget* parent) : MessageEditor(parent)
     layout->addWidget(m_pages, 1);
     connectHeader();
     connectPages();
-    correct(msg());
+    entry::ensureHeader(msg());
     updateDialog();
 }
 

@@ -5,6 +5,7 @@
 #include "tests/support/ConsoleCapture.h"
 
 #include <QLabel>
+#include <QScrollBar>
 #include <QTimer>
 #include <QToolButton>
 
@@ -76,6 +77,23 @@ TEST_F(TransmitWindow, HasItsButtonsAndModes)
     EXPECT_EQ(modes->itemData(2), 4);
     EXPECT_FALSE(find("inputSwitch")->isEnabled());
     EXPECT_TRUE(find("outputSwitch")->isEnabled());
+}
+
+TEST_F(TransmitWindow, FirstSizeShowsAllColumnsIfTheMainWindowHasTheRoom)
+{
+    addLine(1);
+    open();
+    m_dialog->show();
+    QApplication::processEvents();
+    EXPECT_EQ(m_table->horizontalScrollBar()->maximum(), 0);
+    for (const auto& [mainWidth, width] : {std::pair{640, 720}, {1100, 800}, {1920, 890}}) {
+        QWidget main;
+        main.resize(mainWidth, 700);
+        const gui::DialogTransmit dialog(m_object, &main);
+        EXPECT_EQ(dialog.sizeHint().width(), width);
+        EXPECT_EQ(dialog.size(), dialog.sizeHint());
+    }
+    m_object->setDialog(m_dialog);
 }
 
 TEST_F(TransmitWindow, ShowsTheSettingsOfItsObject)
