@@ -18,11 +18,14 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <initializer_list>
+#include <utility>
+
 namespace gui {
 
 namespace {
 
-constexpr int playerMargin = 6;
+constexpr int playerMargin = 3; // all four buttons fit into the narrowest window
 constexpr int loadButtonHeight = 30;
 constexpr int timeDigits = 12;
 constexpr int timeWidth = 220;
@@ -86,10 +89,14 @@ QFrame* DialogReplay::buildPlayer()
     m_fileName->setReadOnly(true);
     auto* grid = new QGridLayout(player);
     grid->setContentsMargins(playerMargin, playerMargin, playerMargin, playerMargin);
+    grid->setSpacing(playerMargin);
+    // Shares of the width by which all texts fit into the narrowest window.
+    const std::initializer_list<std::pair<QWidget*, int>> shares{
+        {m_load, 15}, {m_start, 9}, {m_stop, 9}, {m_autoRepeat, 12}};
     int column = 0;
-    for (QWidget* control : {static_cast<QWidget*>(m_load), static_cast<QWidget*>(m_start),
-                             static_cast<QWidget*>(m_stop), static_cast<QWidget*>(m_autoRepeat)}) {
-        control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    for (const auto& [control, share] : shares) {
+        control->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::MinimumExpanding);
+        grid->setColumnStretch(column, share);
         grid->addWidget(control, 0, column++);
     }
     grid->addWidget(m_fileName, 1, 0, 1, playerColumns);
