@@ -6,6 +6,7 @@
 #include "app/Composition.h"
 #include "bench/Distribution.h"
 #include "bench/SequenceCheck.h"
+#include "bench/WindowApplication.h"
 #include "comm/BatchListeners.h"
 #include "comm/CanInterface.h"
 #include "gui/desktop/DialogMain.h"
@@ -15,13 +16,11 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QTimer>
 
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
@@ -226,14 +225,7 @@ Options parse(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const QApplication application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C"); // NOLINT(concurrency-mt-unsafe)
-    // The device modules lie beside the program, one folder off from here.
-    qputenv("ZUL_HOME",
-            QFile::encodeName(QApplication::applicationDirPath() + QLatin1String("/..")));
+    const bench::WindowApplication application(argc, argv);
     app::registerWindowMakers();
     Load load(parse(argc, argv));
     if (!load.build() || !load.start()) {

@@ -4,6 +4,7 @@
 //   bench_replay [SECONDS [FRAMES A SECOND]]      10, 2000
 
 #include "bench/Distribution.h"
+#include "bench/WindowApplication.h"
 #include "comm/BatchListeners.h"
 #include "comm/CanInterface.h"
 #include "gui/frame/FileDialogs.h"
@@ -19,7 +20,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <clocale>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -178,14 +178,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const QApplication application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C"); // NOLINT(concurrency-mt-unsafe)
-    // The device modules lie beside the program, one folder off from here.
-    qputenv("ZUL_HOME",
-            QFile::encodeName(QApplication::applicationDirPath() + QLatin1String("/..")));
+    const bench::WindowApplication application(argc, argv);
     Options options;
     if (argc > 1) {
         options.seconds = std::atof(argv[1]);

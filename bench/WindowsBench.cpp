@@ -5,6 +5,7 @@
 
 #include "app/Composition.h"
 #include "bench/Distribution.h"
+#include "bench/WindowApplication.h"
 #include "comm/BatchListeners.h"
 #include "comm/CanInterface.h"
 #include "core/SettingsStore.h"
@@ -23,7 +24,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLineEdit>
@@ -36,7 +36,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -301,14 +300,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const QApplication application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C"); // NOLINT(concurrency-mt-unsafe)
-    // The device modules lie beside the program, one folder off from here.
-    qputenv("ZUL_HOME",
-            QFile::encodeName(QApplication::applicationDirPath() + QLatin1String("/..")));
+    const bench::WindowApplication application(argc, argv);
     app::registerWindowMakers();
     constexpr double usualSeconds = 20.0;
     Rig rig(argc > 1 ? std::atof(argv[1]) : usualSeconds);

@@ -72,37 +72,38 @@ void copyLine(char* buffer, std::size_t capacity, const Line& line, const char* 
     buffer[length] = '\0';
 }
 
-} // namespace
+enum class LastBlank {
+    Never,       // none behind the last byte of a line
+    InsideFrame, // one there, unless the frame has no other line
+};
 
-int formatBytesDec(char* buffer, std::size_t capacity, const zul::MessageCan& frame, int offset)
+void format(char* buffer, std::size_t capacity, const zul::MessageCan& frame, int offset,
+            const Cells& cells, LastBlank lastBlank)
 {
     if (capacity == 0) {
-        return 0;
+        return;
     }
     buffer[0] = '\0';
     const int count = bytesInLine(frame, offset);
     if (count < 1) {
-        return 0;
+        return;
     }
     Line line{};
-    const char* end = writeLine(line, frame, offset, count, decimals);
-    copyLine(buffer, capacity, line, end - 1); // without the last byte's blank
+    const char* end = writeLine(line, frame, offset, count, cells);
+    const bool isWhole = static_cast<std::uint32_t>(count) == frame.byteCount();
+    copyLine(buffer, capacity, line, lastBlank == LastBlank::Never || isWhole ? end - 1 : end);
+}
+
+} // namespace
+
+int formatBytesDec(char* buffer, std::size_t capacity, const zul::MessageCan& frame, int offset)
+{
+    format(buffer, capacity, frame, offset, decimals, LastBlank::Never);
     return 0;
 }
 
 int formatBytesHex(char* buffer, std::size_t capacity, const zul::MessageCan& frame, int offset)
 {
-    if (capacity == 0) {
-        return 0;
-    }
-    buffer[0] = '\0';
-    const int count = bytesInLine(frame, offset);
-    if (count < 1) {
-        return 0;
-    }
-    Line line{};
-    const char* end = writeLine(line, frame, offset, count, hexadecimals);
-    const bool endsWithFrame = static_cast<std::uint32_t>(count) == frame.byteCount();
-    copyLine(buffer, capacity, line, endsWithFrame ? end - 1 : end);
+    format(buffer, capacity, frame, offset, hexadecimals, LastBlank::InsideFrame);
     return 0;
 }
