@@ -34,19 +34,6 @@ QString payloadText(const SendMsg& line)
     return text;
 }
 
-void readPayload(const QString& text, zul::MessageData& data)
-{
-    std::int32_t index = 0;
-    for (const QString& part : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        if (index == zul::MessageData::size) {
-            return;
-        }
-        constexpr int detectBase = 0;
-        data[index++] = static_cast<std::uint8_t>(
-            static_cast<unsigned>(part.toInt(nullptr, detectBase)) & 0xFFU);
-    }
-}
-
 } // namespace
 
 ObjectTransmit::ObjectTransmit() = default;
@@ -79,7 +66,8 @@ void ObjectTransmit::readChild(const QDomElement& element)
         auto line = std::make_unique<SendMsg>();
         RecordReader reader(child);
         describeLine(reader, *line);
-        readPayload(child.attribute(payloadAttribute), line->data);
+        constexpr int detectBase = 0;
+        readPayloadText(child.attribute(payloadAttribute), detectBase, line->data);
         m_lines.push_back(std::move(line));
     }
 }

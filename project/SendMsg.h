@@ -21,3 +21,8 @@ struct SendMsg
     zul::MessageData data;
     std::uint32_t mode = 0; ///< value of `zul::MessageCan::EMsgMode`
 };
+
+/// Reads bytes that stand in `text`, separated by blanks, until the payload is full. `base` is that
+/// of the numbers, 0 if their prefixes tell it; of larger numbers the low byte counts, and what is
+/// no number is 0.
+void readPayloadText(const QString& text, int base, zul::MessageData& data);

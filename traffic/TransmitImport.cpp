@@ -26,25 +26,6 @@ float singleOf(const QXmlStreamAttributes& attributes, const char* name)
     return static_cast<float>(std::clamp(value, -largest, largest));
 }
 
-// Number by number, since the text of a hostile file may be very long.
-void readPayload(const QString& text, zul::MessageData& data)
-{
-    constexpr int hexadecimal = 16;
-    constexpr QLatin1Char blank(' ');
-    std::int32_t index = 0;
-    int begin = 0;
-    while (begin < text.size() && index < zul::MessageData::size) {
-        const int found = text.indexOf(blank, begin);
-        const int end = found < 0 ? text.size() : found;
-        if (end > begin) {
-            const std::uint32_t value =
-                text.midRef(begin, end - begin).toUInt(nullptr, hexadecimal);
-            data[index++] = static_cast<std::uint8_t>(value & 0xFFU);
-        }
-        begin = end + 1;
-    }
-}
-
 std::unique_ptr<SendMsg> readMessage(const QXmlStreamAttributes& attributes)
 {
     auto line = std::make_unique<SendMsg>();
@@ -58,7 +39,8 @@ std::unique_ptr<SendMsg> readMessage(const QXmlStreamAttributes& attributes)
     line->min = singleOf(attributes, "min");
     line->max = singleOf(attributes, "max");
     line->actual = singleOf(attributes, "actual");
-    readPayload(zul::xmlText(attributes, "msg.msg"), line->data);
+    constexpr int hexadecimal = 16;
+    readPayloadText(zul::xmlText(attributes, "msg.msg"), hexadecimal, line->data);
     return line;
 }
 
@@ -72,7 +54,7 @@ bool readZorbConfiguration(const QString& path, ObjectTransmit::Lines& lines)
     }
     lines.clear();
     while (source.nextChild()) {
-        if (source.isAt(messageElement)) {
+        if (source.isAt(messageElement) && lines.size() < maxLines) {
             lines.push_back(readMessage(source.attributes()));
         }
         source.skip();

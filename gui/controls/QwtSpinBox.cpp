@@ -4,6 +4,8 @@
 
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace gui {
 
 QwtSpinBox::QwtSpinBox(int index, QWidget* parent) : QSpinBox(parent), m_index(index)
@@ -26,7 +28,12 @@ QString QwtSpinBox::textFromValue(int value) const
 
 int QwtSpinBox::valueFromText(const QString& text) const
 {
-    return numberFromText(text);
+    if (minimum() < 0) {
+        return numberFromText(text);
+    }
+    // Without negative values "0x80000000" is a large number, and too large ones are the largest.
+    const qlonglong value = wideNumberFromText(text);
+    return static_cast<int>(std::clamp<qlonglong>(value, minimum(), maximum()));
 }
 
 QValidator::State QwtSpinBox::validate(QString&, int&) const

@@ -91,6 +91,7 @@ private:
     void dispatch(MainAction id);
     void newProject();
     void openProject();
+    void commitEntry();
     void saveProject();
     void saveProjectAs();
     void quit();

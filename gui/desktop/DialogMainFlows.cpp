@@ -7,6 +7,7 @@
 #include "gui/frame/MessageBoxes.h"
 
 #include <QAction>
+#include <QApplication>
 
 // What the main window does with whole projects: new, open, save, quit.
 
@@ -83,8 +84,18 @@ void DialogMain::openProject()
     showReplacedProject();
 }
 
+// What is being typed counts, as if the field had been left.
+void DialogMain::commitEntry()
+{
+    if (QWidget* field = QApplication::focusWidget()) {
+        field->clearFocus();
+        field->setFocus();
+    }
+}
+
 void DialogMain::saveProject()
 {
+    commitEntry();
     storeGeometry();
     if (m_project.fileName().isEmpty()) {
         saveProjectAs();
@@ -98,6 +109,7 @@ void DialogMain::saveProject()
 
 void DialogMain::saveProjectAs()
 {
+    commitEntry();
     storeGeometry();
     QString path =
         FileDialogs::saveFile(this, QStringLiteral("Save Project"), fileFilter, suffix.mid(1));

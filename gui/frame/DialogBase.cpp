@@ -78,6 +78,9 @@ void DialogBase::guiRequest(std::unique_ptr<Message> request)
 
 void DialogBase::closeEvent(QCloseEvent* event)
 {
+    if (QWidget* field = focusWidget()) {
+        field->clearFocus(); // what is being typed counts
+    }
     int policy = SettingsStore::instance().integer(QStringLiteral("OnCloseDialog"), keepObject);
     if (m_forceClose) {
         policy = keepObject;

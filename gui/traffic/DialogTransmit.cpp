@@ -3,6 +3,7 @@
 #include "core/Clock.h"
 #include "core/Console.h"
 #include "gui/controls/Colors.h"
+#include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
 #include "gui/frame/MessageBoxes.h"
@@ -10,6 +11,7 @@
 #include "gui/traffic/DialogTransmitSetup.h"
 #include "gui/traffic/QwtTransmitButton.h"
 #include "gui/traffic/TransmitTable.h"
+#include "gui/traffic/WheelGuard.h"
 #include "gui/traffic/Widget825Raw.h"
 #include "gui/traffic/WidgetCanAs.h"
 #include "gui/traffic/WidgetTransmitCan.h"
@@ -30,7 +32,6 @@ namespace gui {
 namespace {
 
 constexpr int minimumWidthPixels = 400;
-constexpr int margin = 3;
 constexpr int firstWidth = 890; // all columns are in view
 constexpr int leastFirstWidth = 720;
 constexpr int panelsWidth = 300; // of the main window, beside its tool windows
@@ -107,6 +108,7 @@ void DialogTransmit::build()
     m_table->setObjectName(QStringLiteral("transmitTable"));
     m_displayMode = new QwtComboBox(0, this);
     m_displayMode->setObjectName(QStringLiteral("displayMode"));
+    WheelGuard::protect(m_displayMode);
     for (const DisplayModeTexts& mode : displayModes) {
         if (mode.transmit != nullptr) {
             m_displayMode->addItem(QLatin1String(mode.transmit), static_cast<int>(mode.mode));
@@ -125,8 +127,8 @@ void DialogTransmit::build()
         bottom->addWidget(button);
     }
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(margin);
+    layout->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+    layout->setSpacing(windowMargin);
     layout->addWidget(m_header);
     layout->addWidget(m_table, 1);
     layout->addLayout(bottom);
@@ -339,6 +341,7 @@ void DialogTransmit::slotTransmitHeight(int index, unsigned int height)
 
 void DialogTransmit::slotDisplayMode(int, int mode)
 {
+    m_table->commitEntry();
     if (m_transmit != nullptr) {
         m_transmit->settings().displayMode = mode;
         markEdited();
@@ -348,6 +351,7 @@ void DialogTransmit::slotDisplayMode(int, int mode)
 
 void DialogTransmit::slotNumberType(int numberType)
 {
+    m_table->commitEntry();
     if (m_transmit != nullptr) {
         m_transmit->settings().numberType = numberType;
         markEdited();
@@ -404,7 +408,7 @@ bool DialogTransmit::isConfirmed(const char* question)
         return false;
     }
     const auto answer =
-        MessageBoxes::ask(this, QMessageBox::Warning, QStringLiteral("ZUL Warning"),
+        MessageBoxes::ask(this, QMessageBox::Warning, QLatin1String(MessageBoxes::warningTitle),
                           QLatin1String(question), {QMessageBox::Yes, QMessageBox::Cancel});
     return answer == QMessageBox::Yes && m_transmit != nullptr;
 }

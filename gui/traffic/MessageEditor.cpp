@@ -3,6 +3,7 @@
 #include "gui/controls/Colors.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/traffic/WheelGuard.h"
+#include "traffic/MessageModes.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -80,6 +81,17 @@ QwtComboBox* MessageEditor::makeComboBox(const char* objectName)
     colors.setColor(QPalette::Button, colors::entry);
     box->setPalette(colors);
     WheelGuard::protect(box);
+    return box;
+}
+
+QwtComboBox* MessageEditor::makeModeBox(int idBits)
+{
+    QwtComboBox* box = makeComboBox("mode");
+    for (const MessageModeTexts& mode : messageModes) {
+        if (idBits == 0 || mode.idBits == idBits) {
+            box->addItem(QLatin1String(mode.text), mode.mode);
+        }
+    }
     return box;
 }
 

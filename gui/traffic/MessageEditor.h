@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gui/traffic/EditorLook.h"
 #include "project/SendMsg.h"
 
 #include <QFrame>
@@ -54,6 +55,8 @@ protected:
     QLabel* makeLabel(const char* text);
     /// A selection box in the editor's look.
     QwtComboBox* makeComboBox(const char* objectName);
+    /// That of the modes whose identifiers have so many bits; of all with 0.
+    QwtComboBox* makeModeBox(int idBits = 0);
     /// Puts `control` in the upper row of `layout` behind what is there, and its label below, which
     /// it returns.
     QLabel* addField(QGridLayout* layout, QWidget* control, const char* label, int width);
@@ -64,8 +67,5 @@ private:
     int m_numberType = 0;
     bool m_updating = false;
 };
-
-/// Margins and gaps within an editor, in pixels; its height leaves no room for more.
-inline constexpr int editorGap = 2;
 
 } // namespace gui

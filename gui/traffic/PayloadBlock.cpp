@@ -2,6 +2,7 @@
 
 #include "gui/controls/QwtByteCount.h"
 #include "gui/controls/QwtLineEdit.h"
+#include "gui/traffic/EditorLook.h"
 #include "gui/traffic/WheelGuard.h"
 #include "traffic/MessageEntry.h"
 
@@ -17,7 +18,6 @@ namespace {
 using messageentry::bytesPerRow;
 using messageentry::payloadRows;
 
-constexpr int rowHeight = 18; // pixels: two rows and a frame stand in a height of 40
 constexpr int gap = 1;
 constexpr int byteCountWidth = 48;
 constexpr int rowLabelWidth = 30;
@@ -51,11 +51,11 @@ void PayloadBlock::buildByteCount(QGridLayout* layout)
     m_byteCount = new QwtByteCount(0, this);
     m_byteCount->setObjectName(QStringLiteral("byteCount"));
     m_byteCount->setToolTip(QStringLiteral("Message Byte Count"));
-    m_byteCount->setFixedSize(byteCountWidth, rowHeight);
+    m_byteCount->setFixedSize(byteCountWidth, editorRowHeight);
     WheelGuard::protect(m_byteCount);
     auto* label = new QLabel(QStringLiteral("BC"), this);
     label->setAlignment(Qt::AlignCenter);
-    label->setFixedHeight(rowHeight);
+    label->setFixedHeight(editorRowHeight);
     layout->addWidget(m_byteCount, 0, byteCountColumn);
     layout->addWidget(label, 1, byteCountColumn);
     connect(m_byteCount, &QwtByteCount::signalValueChanged, this, &PayloadBlock::signalByteCount);
@@ -64,7 +64,7 @@ void PayloadBlock::buildByteCount(QGridLayout* layout)
 void PayloadBlock::buildRow(QGridLayout* layout, int row)
 {
     auto* label = new QLabel(QStringLiteral("B%1").arg(row * bytesPerRow), this);
-    label->setFixedSize(rowLabelWidth, rowHeight);
+    label->setFixedSize(rowLabelWidth, editorRowHeight);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setIndent(2);
     layout->addWidget(label, row, rowLabelColumn);
@@ -78,7 +78,7 @@ void PayloadBlock::buildRow(QGridLayout* layout, int row)
         cell->setTextMargins(cellTextMargin, 0, cellTextMargin, 0);
         cell->setAlignment(Qt::AlignCenter);
         cell->setMinimumWidth(cellWidth);
-        cell->setFixedHeight(rowHeight);
+        cell->setFixedHeight(editorRowHeight);
         cell->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         if (index > 0) {
             setTabOrder(m_cells.at(static_cast<std::size_t>(index - 1)), cell);

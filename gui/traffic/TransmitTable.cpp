@@ -5,7 +5,9 @@
 #include "gui/traffic/QwtTransmitButton.h"
 #include "project/SendMsg.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -27,6 +29,8 @@ TransmitTable::TransmitTable(QWidget* parent) : QTableWidget(parent)
     setHorizontalScrollMode(ScrollPerPixel);
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
+    setTabKeyNavigation(false); // within a row it is the fields' own
+    setEditTriggers(DoubleClicked | EditKeyPressed);
     QPalette colors = palette();
     colors.setColor(QPalette::Highlight, colors::selectedRow);
     colors.setColor(QPalette::HighlightedText, Qt::black);
@@ -35,6 +39,15 @@ TransmitTable::TransmitTable(QWidget* parent) : QTableWidget(parent)
     const auto rowsMoved = QOverload<>::of(&TransmitTable::requestControls);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, rowsMoved);
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, rowsMoved);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &TransmitTable::fitColumns);
+}
+
+void TransmitTable::commitEntry()
+{
+    QWidget* field = QApplication::focusWidget();
+    if (field != nullptr && isAncestorOf(field)) {
+        field->clearFocus();
+    }
 }
 
 void TransmitTable::startOver()
@@ -93,6 +106,27 @@ void TransmitTable::requestControls()
         requestControls(row);
         ahead -= rowViewportPosition(row) >= viewport()->height() ? 1 : 0;
     }
+    const int bottom = rowAt(viewport()->height() - 1);
+    giveBackControls(top, bottom < 0 ? rowCount() - 1 : bottom);
+}
+
+void TransmitTable::giveBackControls(int top, int bottom)
+{
+    for (int row = firstRows; row < static_cast<int>(m_isComplete.size()); ++row) {
+        const bool isNear = row >= top - keptRows && row <= bottom + keptRows;
+        const QWidget* field = QApplication::focusWidget();
+        const auto has = [&](int column) {
+            const QWidget* widget = cellWidget(row, column);
+            return widget != nullptr && field != nullptr && widget->isAncestorOf(field);
+        };
+        const auto place = static_cast<std::size_t>(row);
+        if (isNear || !m_isComplete[place] || has(MessageColumn) || has(TransmitColumn)) {
+            continue;
+        }
+        m_isComplete[place] = false;
+        removeCellWidget(row, MessageColumn);
+        removeCellWidget(row, TransmitColumn);
+    }
 }
 
 void TransmitTable::requestControls(int row)
@@ -143,12 +177,23 @@ void TransmitTable::resizeEvent(QResizeEvent* event)
     requestControls();
 }
 
+// Keys that a field in a row has no use for are not the table's.
+void TransmitTable::keyPressEvent(QKeyEvent* event)
+{
+    if (hasFocus()) {
+        QTableWidget::keyPressEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
 // A column that stretches is as narrow as the window is, and its editors would be cut.
 void TransmitTable::fitColumns()
 {
-    if (columnCount() != columnTotal) {
+    if (columnCount() != columnTotal || m_isFitting) {
         return;
     }
+    const QScopedValueRollback<bool> guard(m_isFitting, true);
     const int room = viewport()->width() - columnWidth(NameColumn) - columnWidth(TransmitColumn);
     const bool isWide = room >= m_messageWidth;
     const auto mode = isWide ? QHeaderView::Stretch : QHeaderView::Interactive;

@@ -30,11 +30,15 @@ public:
 
     /// Rows that get their controls at once.
     static constexpr int firstRows = 32;
+    /// Rows above and below the view that keep their controls; those beyond give them back.
+    static constexpr int keptRows = 100;
 
     /// Removes all rows and sets the columns anew.
     void startOver();
     /// Appends a row with the name of `line`, which the row then points to; returns its number.
     int appendLine(SendMsg* line);
+    /// What is being typed in a row counts, as if the field had been left.
+    void commitEntry();
     /// Asks for the controls of the first rows, and of those that are in view.
     void requestControls();
     /// Puts an editor into a row. The column of messages stretches, and if there is less room than
@@ -49,19 +53,22 @@ public:
     static SendMsg* lineOf(const QTableWidgetItem& item);
 
 signals:
-    /// The row is to get its controls; it comes once for each row.
+    /// The row is to get its controls, which it has not.
     void signalControlsWanted(int row);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void fitColumns();
     void requestControls(int row);
+    void giveBackControls(int top, int bottom);
 
     int m_messageWidth = 0;         // of the column at least
     std::vector<bool> m_isComplete; // by row: its controls were asked for
     bool m_isFilling = false;
+    bool m_isFitting = false;
 };
 
 } // namespace gui

@@ -1,6 +1,7 @@
 #include "gui/traffic/ValueLines.h"
 
 #include "gui/controls/QwtLineEdit.h"
+#include "gui/traffic/EditorLook.h"
 
 #include <QHBoxLayout>
 
@@ -9,7 +10,6 @@ namespace gui {
 namespace {
 
 constexpr int gap = 4;
-constexpr int lineHeight = 22; // pixels, that of the fields beside it
 
 } // namespace
 
@@ -20,7 +20,7 @@ ValueLines::ValueLines(int count, QWidget* parent) : QWidget(parent)
     layout->setSpacing(gap);
     for (int i = 0; i < count; ++i) {
         auto* line = new QwtLineEdit(i, this);
-        line->setFixedHeight(lineHeight);
+        line->setFixedHeight(editorFieldHeight);
         line->setMinimumWidth(0);
         layout->addWidget(line, 1, Qt::AlignTop);
         m_lines.push_back(line);

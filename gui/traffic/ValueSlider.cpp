@@ -43,7 +43,9 @@ ValueSlider::ValueSlider(QWidget* parent)
     layout->addStretch();
     connect(m_slider, &QSlider::valueChanged, this, &ValueSlider::signalSlider);
     connect(m_actual, &QLineEdit::textChanged, this, &ValueSlider::signalActual);
-    // It comes at the return key, too.
+    connect(m_minimum, &QLineEdit::returnPressed, this, &ValueSlider::signalMin);
+    connect(m_maximum, &QLineEdit::returnPressed, this, &ValueSlider::signalMax);
+    // A limit that is only passed through stays as it is, with all its digits.
     connect(m_minimum, &QLineEdit::editingFinished, this, [this] {
         if (m_minimum->text() != m_shownMinimum) {
             emit signalMin();

@@ -23,9 +23,8 @@ namespace {
 
 constexpr int minimumWidthPixels = 400;
 constexpr int firstHeight = 50;
-constexpr int rowHeight = 18; // pixels, that of the payload
+constexpr int extendedIdBits = 29;
 constexpr int gap = 1;
-constexpr int headWidth = 82;
 constexpr int numberWidth = 49;
 constexpr int docWidth = 64;
 constexpr int rciWidth = 40;
@@ -66,15 +65,10 @@ Widget825Raw::~Widget825Raw() = default;
 
 void Widget825Raw::buildHead(QGridLayout* layout)
 {
-    m_mode = makeComboBox("mode");
-    m_mode->setFixedSize(headWidth, rowHeight);
-    for (const MessageModeTexts& mode : messageModes) {
-        if (messageentry::isExtended(static_cast<std::uint32_t>(mode.mode))) {
-            m_mode->addItem(QLatin1String(mode.text), mode.mode);
-        }
-    }
+    m_mode = makeModeBox(extendedIdBits);
+    m_mode->setFixedSize(gui::modeWidth, gui::editorRowHeight);
     m_lcc = makeComboBox("lcc");
-    m_lcc->setFixedSize(headWidth, rowHeight);
+    m_lcc->setFixedSize(gui::modeWidth, gui::editorRowHeight);
     m_lcc->setToolTip(QLatin1String(layout825::channelSelectionToolTip));
     for (const layout825::Channel& channel : layout825::channels) {
         m_lcc->addItem(QLatin1String(channel.name), static_cast<int>(channel.lcc));
@@ -96,7 +90,7 @@ QGridLayout* Widget825Raw::makePage(QWidget* page)
     layout->setContentsMargins(gui::editorGap, 0, gui::editorGap, 0);
     layout->setHorizontalSpacing(gui::editorGap);
     layout->setVerticalSpacing(gap);
-    layout->setRowMinimumHeight(0, rowHeight);
+    layout->setRowMinimumHeight(0, gui::editorRowHeight);
     layout->setRowStretch(2, 1);
     return layout;
 }
@@ -165,7 +159,7 @@ void Widget825Raw::addNumber(QGridLayout* layout, const char* label, const char*
     control->setRange(0, static_cast<int>(maximum));
     control->setObjectName(QLatin1String(label));
     control->setToolTip(QLatin1String(toolTip));
-    control->setFixedHeight(rowHeight);
+    control->setFixedHeight(gui::editorRowHeight);
     gui::WheelGuard::protect(control);
     addField(layout, control, label, width)->setToolTip(QLatin1String(toolTip));
     m_numbers.push_back({control, field});
@@ -178,7 +172,7 @@ QLabel* Widget825Raw::addFlag(QGridLayout* layout, const char* label, const char
     auto* control = new QCheckBox(this);
     control->setObjectName(QString::fromLatin1(label).trimmed());
     control->setToolTip(QLatin1String(toolTip));
-    control->setFixedHeight(rowHeight);
+    control->setFixedHeight(gui::editorRowHeight);
     QLabel* below = addField(layout, control, label, flagWidth);
     below->setToolTip(QLatin1String(toolTip));
     m_flags.push_back({control, field});
@@ -193,7 +187,7 @@ void Widget825Raw::addRci(QGridLayout* layout)
         control->addItem(QString(QLatin1Char(layout825::rciLetter(i))), static_cast<int>(i));
     }
     control->setToolTip(QLatin1String(layout825::names::redundancyChannel));
-    control->setFixedHeight(rowHeight);
+    control->setFixedHeight(gui::editorRowHeight);
     addField(layout, control, "RCI", rciWidth)->setToolTip(control->toolTip());
     m_rcis.push_back(control);
     connect(control, QOverload<int>::of(&QwtComboBox::signalActivated), this,

@@ -26,14 +26,10 @@ namespace {
 
 constexpr int minimumWidthPixels = 730;
 constexpr int editorHeightPixels = 50;
-constexpr int fieldHeight = 22;
-constexpr int canIdWidth = 100;
-constexpr int modeWidth = 82;
 constexpr int byteWidth = 54;
 constexpr int dataTypeWidth = 88;
 constexpr int serviceWidth = 66;
 constexpr int pagesMinimumWidth = 150;
-constexpr int maxByte = 255;
 constexpr std::uint32_t allBits = 0xFFFFFFFF;
 
 } // namespace
@@ -70,11 +66,8 @@ QwtSpinBox* WidgetCanAs::makeSpinBox(const char* objectName, int maximum)
 void WidgetCanAs::buildHeader(QGridLayout* layout)
 {
     m_canId = makeSpinBox("canId", messageentry::idEntryMaximum(0));
-    m_mode = makeComboBox("mode");
-    for (const MessageModeTexts& mode : messageModes) {
-        m_mode->addItem(QLatin1String(mode.text), mode.mode);
-    }
-    m_nodeId = makeSpinBox("nodeId", maxByte);
+    m_mode = makeModeBox();
+    m_nodeId = makeSpinBox("nodeId", gui::maxByte);
     m_dataType = makeComboBox("dataType");
     for (std::size_t i = 0; i < zul::canAerospaceTypes.size(); ++i) {
         m_dataType->addItem(QLatin1String(zul::canAerospaceTypes[i].selectionName),
@@ -88,20 +81,20 @@ void WidgetCanAs::buildHeader(QGridLayout* layout)
         const int code = static_cast<int>(i);
         m_service->addItem(QString::asprintf("%d %s", code, canas::services[i]), code);
     }
-    m_messageId = makeSpinBox("messageId", maxByte);
+    m_messageId = makeSpinBox("messageId", gui::maxByte);
 
     layout->setHorizontalSpacing(gui::editorGap);
     layout->setVerticalSpacing(gui::editorGap);
     layout->setContentsMargins(0, gui::editorGap, 0, 0);
-    addField(layout, m_canId, "CanId", canIdWidth);
-    addField(layout, m_mode, "Mode", modeWidth);
+    addField(layout, m_canId, "CanId", gui::canIdWidth);
+    addField(layout, m_mode, "Mode", gui::modeWidth);
     addField(layout, m_nodeId, "NodeId", byteWidth);
     addField(layout, m_dataType, "Data Type", dataTypeWidth);
     addField(layout, m_service, "Service", serviceWidth);
     addField(layout, m_messageId, "MsgId", byteWidth);
     for (QWidget* field :
          std::array<QWidget*, 6>{m_canId, m_mode, m_nodeId, m_dataType, m_service, m_messageId}) {
-        field->setFixedHeight(fieldHeight);
+        field->setFixedHeight(gui::editorFieldHeight);
     }
     layout->setRowStretch(2, 1);
 }
@@ -186,7 +179,10 @@ void WidgetCanAs::feedHeader()
 {
     msg().id = messageentry::boundedId(msg().id, msg().mode);
     const int id = static_cast<int>(msg().id);
-    m_canId->setMaximum(messageentry::idEntryMaximum(msg().mode));
+    const int maximum = messageentry::idEntryMaximum(msg().mode);
+    if (m_canId->maximum() != maximum) { // setting it ends a step that is being repeated
+        m_canId->setMaximum(maximum);
+    }
     if (m_canId->value() != id) { // else what is being typed stays as it is, "0x1" for instance
         m_canId->setValue(id);
     }

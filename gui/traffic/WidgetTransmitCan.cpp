@@ -18,10 +18,7 @@
 
 namespace {
 
-constexpr int canIdWidth = 100;
-constexpr int rowHeight = 18; // pixels, that of the payload
 constexpr int gap = 1;
-constexpr int maxByte = 255;
 
 } // namespace
 
@@ -29,15 +26,12 @@ WidgetTransmitCan::WidgetTransmitCan(QWidget* parent) : PayloadEditor(parent)
 {
     m_canId = new gui::QwtSpinBox(0, this);
     m_canId->setObjectName(QStringLiteral("canId"));
-    m_canId->setFixedSize(canIdWidth, rowHeight);
+    m_canId->setFixedSize(gui::canIdWidth, gui::editorRowHeight);
     gui::WheelGuard::protect(m_canId);
-    m_mode = makeComboBox("mode");
-    m_mode->setFixedSize(canIdWidth, rowHeight);
-    for (const MessageModeTexts& mode : messageModes) {
-        m_mode->addItem(QLatin1String(mode.text), mode.mode);
-    }
+    m_mode = makeModeBox();
+    m_mode->setFixedSize(gui::canIdWidth, gui::editorRowHeight);
     buildPayload();
-    payload()->setValidator(new gui::QwtHexValidator(0, maxByte, this));
+    payload()->setValidator(new gui::QwtHexValidator(0, gui::maxByte, this));
 
     auto* fields = new QGridLayout;
     fields->setHorizontalSpacing(gui::editorGap);

@@ -102,6 +102,19 @@ TEST(QwtSpinBox, ReadsHexadecimalAlsoInDecimalMode)
     EXPECT_EQ(changed.count(), changes);
 }
 
+TEST(QwtSpinBox, NumberThatIsTooLargeIsTheLargestAndNot0)
+{
+    QwtSpinBox box;
+    box.setRange(0, 2047);
+    for (const char* text : {"0x80000000", "0xFFFFFFFF", "4294967295", "0x1FFFFFFFF"}) {
+        box.setValue(5);
+        box.selectAll();
+        QTest::keyClicks(&box, QLatin1String(text));
+        QTest::keyClick(&box, Qt::Key_Return);
+        EXPECT_EQ(box.value(), 2047) << text;
+    }
+}
+
 TEST(QwtSpinBox, NegativeValueSurvivesItsHexadecimalText)
 {
     QwtSpinBox box;

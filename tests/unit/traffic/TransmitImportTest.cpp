@@ -81,7 +81,7 @@ TEST_F(TransmitImport, UnreadableValuesAreZero)
     EXPECT_EQ(line.data[0], 0);
     EXPECT_EQ(line.data[1], 0);
     EXPECT_EQ(line.data[2], 0); // the low byte of 0x100
-    EXPECT_EQ(line.data[3], 0);
+    EXPECT_EQ(line.data[3], 0xFF); // that of -1
     EXPECT_EQ(line.data[4], 0x12);
 }
 
@@ -100,6 +100,16 @@ TEST_F(TransmitImport, PayloadBeyond64BytesIsDropped)
     EXPECT_EQ(m_lines[0]->data[63], 0x11);
     EXPECT_EQ(m_lines[0]->data[64], 0);
     EXPECT_EQ(m_lines[0]->byteCount, 0xFFFFFFFFU);
+}
+
+TEST_F(TransmitImport, NoMoreThanTheMostMessagesAreRead)
+{
+    QByteArray xml("<Any>");
+    for (int i = 0; i < 10'001; ++i) {
+        xml += "<CanMsg/>";
+    }
+    EXPECT_TRUE(import(xml + "</Any>"));
+    EXPECT_EQ(m_lines.size(), 10'000U);
 }
 
 TEST_F(TransmitImport, OnlyTheRootsCanMsgChildrenCount)
