@@ -1,6 +1,7 @@
 #include "traffic/ReceiveOrder.h"
 
 #include "profile/Arinc825Id.h"
+#include "profile/CanAerospaceLine.h"
 #include "profile/DataTypes.h"
 #include "profile/ProfileStore.h"
 #include "profile/ValueCodec.h"
@@ -159,17 +160,51 @@ bool isProfileLess(const ReceiveTable& table, int left, int right, ReceiveProfil
     return false;
 }
 
+bool isError(const ReceiveRow& row)
+{
+    return row.msg.frameType() == MessageCan::EFrameType::Error;
+}
+
+bool isEmptiedByErrors(DisplayMode mode, int column)
+{
+    if (mode == DisplayMode::Arinc825Raw) {
+        return column >= static_cast<int>(ReceiveRawColumn::Fields);
+    }
+    return mode == DisplayMode::Arinc825Profile &&
+           column >= static_cast<int>(ReceiveProfileColumn::Rci) &&
+           column <= static_cast<int>(ReceiveProfileColumn::Value);
+}
+
+// By what the line begins with: the class of the identifier, node, type.
+bool isCanAerospaceLess(const MessageCan& left, const MessageCan& right)
+{
+    std::array<char, zul::canAerospaceLineCapacity> leftLine{};
+    std::array<char, zul::canAerospaceLineCapacity> rightLine{};
+    constexpr auto decimal = static_cast<std::int32_t>(NumberType::Decimal);
+    zul::canAerospaceLine(leftLine.data(), leftLine.size(), left, decimal);
+    zul::canAerospaceLine(rightLine.data(), rightLine.size(), right, decimal);
+    return std::strcmp(leftLine.data(), rightLine.data()) < 0;
+}
+
 } // namespace
 
-bool isReceiveRowLess(const ReceiveTable& table, ReceiveColumnSet set, int column, int left,
-                      int right)
+bool isReceiveRowLess(const ReceiveTable& table, DisplayMode mode, int column, int left, int right)
 {
-    switch (set) {
-    case ReceiveColumnSet::Can:
-        return isCanLess(table.row(left), table.row(right), static_cast<ReceiveColumn>(column));
-    case ReceiveColumnSet::Arinc825Raw:
-        return isRawLess(table.row(left), table.row(right), static_cast<ReceiveRawColumn>(column));
-    case ReceiveColumnSet::Arinc825Profile:
+    const ReceiveRow& leftRow = table.row(left);
+    const ReceiveRow& rightRow = table.row(right);
+    if (isEmptiedByErrors(mode, column) && (isError(leftRow) || isError(rightRow))) {
+        return isError(leftRow) && !isError(rightRow);
+    }
+    switch (mode) {
+    case DisplayMode::Can:
+        return isCanLess(leftRow, rightRow, static_cast<ReceiveColumn>(column));
+    case DisplayMode::CanAerospace:
+        return static_cast<ReceiveColumn>(column) == ReceiveColumn::Message
+                   ? isCanAerospaceLess(leftRow.msg, rightRow.msg)
+                   : isCanLess(leftRow, rightRow, static_cast<ReceiveColumn>(column));
+    case DisplayMode::Arinc825Raw:
+        return isRawLess(leftRow, rightRow, static_cast<ReceiveRawColumn>(column));
+    case DisplayMode::Arinc825Profile:
         return isProfileLess(table, left, right, static_cast<ReceiveProfileColumn>(column));
     }
     return false;

@@ -4,7 +4,7 @@
 #include "traffic/ReceiveTable.h"
 
 /// Whether the row `left` of the table comes before the row `right` when the user sorts by a column
-/// of the set: by numbers where the column shows such, whatever form they are shown in. Values that
-/// are no numbers come before all that are.
-bool isReceiveRowLess(const ReceiveTable& table, ReceiveColumnSet set, int column, int left,
-                      int right);
+/// of the mode: by numbers where the column shows such, whatever form they are shown in, and by
+/// words where it shows words. Values that are no numbers come before all that are, and before them
+/// the rows of error frames in columns that such a frame empties.
+bool isReceiveRowLess(const ReceiveTable& table, DisplayMode mode, int column, int left, int right);

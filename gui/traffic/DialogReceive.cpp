@@ -25,10 +25,6 @@
 
 namespace gui {
 
-namespace {
-
-} // namespace
-
 DialogReceive::DialogReceive(ObjectReceive* object, QWidget* parent)
     : DialogBase(object, parent), m_receive(object), m_timer(new QTimer(this))
 {

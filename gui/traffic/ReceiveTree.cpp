@@ -154,7 +154,7 @@ void ReceiveTree::addMissingRows(const ReceiveTable& table, int numberType)
 void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType)
 {
     Row row;
-    row.items[0] = new ReceiveTreeItem(table, m_set, index);
+    row.items[0] = new ReceiveTreeItem(table, index);
     setCellFonts(*row.items[0]);
     addNames(table, index, numberType, *row.items[0]);
     if (hasLines(m_set)) {
@@ -285,9 +285,10 @@ void ReceiveTree::paintLines(ReceiveRow& record, Row& row) const
         }
     }
     const std::uint32_t byteCount = record.msg.byteCount();
-    if (byteCount == record.shownByteCount && row.shown != Shown::Nothing) {
+    if (byteCount == record.shownByteCount && row.hasLinesHidden) {
         return;
     }
+    row.hasLinesHidden = true;
     record.shownByteCount = byteCount;
     for (std::size_t line = 1; line < itemCount; ++line) {
         row.items[line]->setHidden(!isReceiveLineShown(static_cast<int>(line), byteCount));

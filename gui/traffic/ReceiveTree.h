@@ -25,11 +25,7 @@ public:
     void addMissingRows(const ReceiveTable& table, int numberType);
     /// Paints the dirty rows and clears their marks; a cell is written only if its text differs.
     void paintDirtyRows(ReceiveTable& table, int numberType);
-    /// Whether the column is to be sorted by what it shows: words, not numbers.
-    bool isPlainText(int column) const
-    {
-        return m_mode == DisplayMode::CanAerospace && column == m_payloadColumn;
-    }
+    DisplayMode mode() const { return m_mode; }
     /// Removes all items.
     void clearRows();
 
@@ -46,6 +42,7 @@ private:
         std::size_t lines = 0; ///< lines from the first on that may have a text
         Shown shown = Shown::Nothing;
         bool hasBackground = false;
+        bool hasLinesHidden = false; ///< as the byte count wants it
     };
 
     void sortByNone();

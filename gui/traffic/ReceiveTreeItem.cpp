@@ -8,10 +8,7 @@
 
 namespace gui {
 
-ReceiveTreeItem::ReceiveTreeItem(const ReceiveTable& table, ReceiveColumnSet set, int row)
-    : m_table(table), m_set(set), m_row(row)
-{
-}
+ReceiveTreeItem::ReceiveTreeItem(const ReceiveTable& table, int row) : m_table(table), m_row(row) {}
 
 ReceiveTreeItem::~ReceiveTreeItem() = default;
 
@@ -21,17 +18,9 @@ bool ReceiveTreeItem::operator<(const QTreeWidgetItem& other) const
     if (otherItem == nullptr || treeWidget() == nullptr) {
         return QTreeWidgetItem::operator<(other);
     }
-    const int column = treeWidget()->sortColumn();
-    const QString shown = text(column);
-    const QString otherShown = other.text(column);
-    if (shown.isEmpty() || otherShown.isEmpty()) { // an error frame may have emptied the cell
-        return shown.isEmpty() && !otherShown.isEmpty();
-    }
-    const auto* tree = dynamic_cast<const ReceiveTree*>(treeWidget());
-    if (tree != nullptr && tree->isPlainText(column)) {
-        return shown < otherShown;
-    }
-    return isReceiveRowLess(m_table, m_set, column, m_row, otherItem->m_row);
+    const auto* tree = qobject_cast<const ReceiveTree*>(treeWidget());
+    return tree != nullptr &&
+           isReceiveRowLess(m_table, tree->mode(), tree->sortColumn(), m_row, otherItem->m_row);
 }
 
 ReceiveLineItem::ReceiveLineItem(QTreeWidgetItem* row, int line)

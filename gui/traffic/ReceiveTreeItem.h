@@ -12,15 +12,14 @@ namespace gui {
 class ReceiveTreeItem : public QTreeWidgetItem
 {
 public:
-    /// `table` outlives the item; `set` is the one that the tree shows.
-    ReceiveTreeItem(const ReceiveTable& table, ReceiveColumnSet set, int row);
+    /// `table` outlives the item, which belongs into a `ReceiveTree`.
+    ReceiveTreeItem(const ReceiveTable& table, int row);
     ~ReceiveTreeItem() override;
 
     bool operator<(const QTreeWidgetItem& other) const override;
 
 private:
     const ReceiveTable& m_table;
-    ReceiveColumnSet m_set;
     int m_row;
 };
 

@@ -14,6 +14,7 @@
 #include "tests/support/SettableClock.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -245,6 +246,26 @@ TEST(QwtBarItem, BarIsAsWideAsItsShareOfTheMaximum)
     const QImage image = bar.grab().toImage();
     EXPECT_EQ(image.pixelColor(48, 1), QColor(100, 200, 100));
     EXPECT_EQ(image.pixelColor(51, 1), QColor(Qt::white));
+}
+
+TEST(QwtBarItem, RateStandsInTheMiddle)
+{
+    zul::test::SettableClock clock(100.0);
+    QwtBarItem bar;
+    bar.resize(120, 20);
+    clock.advance(1.0);
+    bar.setValue(130.0, 400);
+    const QImage shown = bar.grab().toImage();
+    QImage expected(shown.size(), shown.format());
+    {
+        QPainter painter(&expected);
+        painter.setFont(bar.font());
+        painter.fillRect(expected.rect(), Qt::white);
+        painter.fillRect(0, 0, 30, 20, QColor(100, 200, 100));
+        painter.setPen(bar.palette().color(QPalette::WindowText));
+        painter.drawText(expected.rect(), Qt::AlignCenter, QStringLiteral("100 Msg/s"));
+    }
+    EXPECT_EQ(shown, expected);
 }
 
 TEST(QwtBarItem, SmoothsOverTheTimeSinceTheLastCall)

@@ -131,6 +131,58 @@ TEST_F(ReceiveWindow, PaintsEvery100MillisecondsByATimerThatRunsOnce)
     EXPECT_TRUE(QTest::qWaitFor([&] { return turns.count() >= 2; })) << "it is started again";
 }
 
+TEST_F(ReceiveWindow, LinesOfAFrameThatClaims99BytesAreShownAlsoBehindAnErrorFrame)
+{
+    feed(batchOf(0x1F, 0, errorFrame));
+    ASSERT_TRUE(painted(2, "ERROR FRAME"));
+    feed(batchOf(0x1F, 99));
+    ASSERT_TRUE(paintedRow(0x1F));
+    EXPECT_FALSE(row(0x1F)->child(2)->isHidden());
+}
+
+TEST_F(ReceiveWindow, BatchOfAnotherInterfaceDoesNotAgeRows)
+{
+    m_object->settings().inputInterface = QStringLiteral("Nose");
+    m_dialog->updateDialog();
+    feed(batchOf(1, 1));
+    ASSERT_TRUE(paintedRow(1));
+    m_clock.advance(0.6);
+    MessageContainer foreign = batchOf(2, 1);
+    foreign.setSrcDest("Tail");
+    feed(std::move(foreign));
+    EXPECT_TRUE(m_dialog->table().row(0).active);
+    feed(batchOf(3, 1));
+    EXPECT_FALSE(m_dialog->table().row(0).active);
+}
+
+TEST_F(ReceiveWindow, RowThatIsSilentBeforeItsFirstPaintingIsShownAsSilent)
+{
+    feed(batchOf(1, 1));
+    m_clock.advance(0.6);
+    feed(batchOf(2, 1));
+    ASSERT_TRUE(paintedRow(1));
+    EXPECT_EQ(row(1)->background(0).color(), white);
+    EXPECT_FALSE(row(1)->icon(0).isNull());
+}
+
+TEST_F(ReceiveWindow, TreeIsShownAgainAfterEachPainting)
+{
+    feed(batchOf(1, 1));
+    ASSERT_TRUE(paintedRow(1));
+    EXPECT_TRUE(m_tree->viewport()->updatesEnabled());
+    EXPECT_TRUE(m_tree->updatesEnabled());
+}
+
+TEST_F(ReceiveWindow, HeaderTreeAndButtonsStandBelowEachOther)
+{
+    m_dialog->show();
+    const auto* clear = m_dialog->findChild<QWidget*>(QStringLiteral("clear"));
+    EXPECT_LT(m_header->geometry().bottom(), m_tree->geometry().top());
+    EXPECT_LT(m_tree->geometry().bottom(), m_mode->geometry().top());
+    EXPECT_LT(m_mode->geometry().right(), clear->geometry().left());
+    EXPECT_LT(m_tree->geometry().bottom(), clear->geometry().top());
+}
+
 TEST_F(ReceiveWindow, LinesOfAFrameThatClaims99BytesAreShown)
 {
     feed(batchOf(0x1F, 99));
@@ -397,6 +449,10 @@ protected:
     void SetUp() override
     {
         ReceiveWindow::SetUp();
+        SetUpRows();
+    }
+    void SetUpRows()
+    {
         feedTimes(10, frame(1, 16, 10.0, 200));
         feedTimes(9, frame(2, 8, 100.5, 9));
         feedTimes(1, frame(3, 12, 9.0, 30));
@@ -453,6 +509,20 @@ TEST_F(ReceiveSorting, RowThatComesWhileTheTreeIsSortedStandsInItsPlaceWithItsLi
     EXPECT_EQ(column(2), order);
     for (int line = 0; line < 3; ++line) {
         EXPECT_TRUE(row(4)->child(line)->isHidden());
+    }
+}
+
+TEST_F(ReceiveSorting, NewRowStandsInItsPlaceAlsoByColumnsThatAreNotPaintedYet)
+{
+    for (const int sortColumn : {0, 1, 3, 4}) {
+        m_tree->sortByColumn(sortColumn, Qt::AscendingOrder);
+        const auto id = static_cast<std::uint32_t>(50 + sortColumn);
+        feedTimes(1, frame(id, 64, 1e6, 255)); // the largest of all, but for the count
+        const QString name = QString::asprintf("S %u", id);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return column(2).contains(name); }));
+        EXPECT_EQ(column(2).indexOf(name), sortColumn == 0 ? 1 : 3) << sortColumn;
+        click("clear");
+        SetUpRows();
     }
 }
 

@@ -105,8 +105,7 @@ protected:
         object->settings().displayMode = displayMode;
         object->settings().outputInterface = QStringLiteral("Sender");
         m_dialog = new gui::DialogTransmit(object, nullptr);
-        QTest::mouseClick(m_dialog->findChild<QWidget*>(QStringLiteral("add")),
-                          Qt::LeftButton);
+        QTest::mouseClick(m_dialog->findChild<QWidget*>(QStringLiteral("add")), Qt::LeftButton);
         m_table = m_dialog->findChild<gui::TransmitTable*>(QStringLiteral("transmitTable"));
         return m_table->editor(0);
     }

@@ -43,12 +43,12 @@ protected:
     }
     /// Numbers of the rows in ascending order.
     template <typename Column>
-    std::vector<int> sorted(ReceiveColumnSet set, Column column) const
+    std::vector<int> sorted(DisplayMode mode, Column column) const
     {
         std::vector<int> rows(static_cast<std::size_t>(table.rowCount()));
         std::iota(rows.begin(), rows.end(), 0);
         const auto isLess = [&](int left, int right) {
-            return isReceiveRowLess(table, set, static_cast<int>(column), left, right);
+            return isReceiveRowLess(table, mode, static_cast<int>(column), left, right);
         };
         std::sort(rows.begin(), rows.end(), [&](int left, int right) {
             return isLess(left, right) || (!isLess(right, left) && left < right);
@@ -73,23 +73,23 @@ protected:
 
 TEST_F(Order, RawColumnsSortByTheirNumbers)
 {
-    constexpr auto set = ReceiveColumnSet::Arinc825Raw;
+    constexpr auto mode = DisplayMode::Arinc825Raw;
     feed(dataId(2, 4, 100, 3), {200}, 10.0); // 0
     feed(dataId(0, 16, 9), {9}, 100.0);      // 1
     feed(dataId(7, 4, 99, 1), {30}, 9.0);    // 2
     feed(dataId(0, 16, 9), {9}, 100.0);
-    EXPECT_THAT(sorted(set, ReceiveRawColumn::Count), ElementsAre(0, 2, 1));
-    EXPECT_THAT(sorted(set, ReceiveRawColumn::Id), ElementsAre(1, 0, 2));
-    EXPECT_THAT(sorted(set, ReceiveRawColumn::Time), ElementsAre(2, 0, 1));
-    EXPECT_THAT(sorted(set, ReceiveRawColumn::Lcc), ElementsAre(1, 0, 2));
-    EXPECT_THAT(sorted(set, ReceiveRawColumn::Fields), ElementsAre(2, 0, 1));
-    EXPECT_THAT(sorted(set, ReceiveRawColumn::Rci), ElementsAre(1, 2, 0));
-    EXPECT_THAT(sorted(set, ReceiveRawColumn::Data), ElementsAre(1, 2, 0));
+    EXPECT_THAT(sorted(mode, ReceiveRawColumn::Count), ElementsAre(0, 2, 1));
+    EXPECT_THAT(sorted(mode, ReceiveRawColumn::Id), ElementsAre(1, 0, 2));
+    EXPECT_THAT(sorted(mode, ReceiveRawColumn::Time), ElementsAre(2, 0, 1));
+    EXPECT_THAT(sorted(mode, ReceiveRawColumn::Lcc), ElementsAre(1, 0, 2));
+    EXPECT_THAT(sorted(mode, ReceiveRawColumn::Fields), ElementsAre(2, 0, 1));
+    EXPECT_THAT(sorted(mode, ReceiveRawColumn::Rci), ElementsAre(1, 2, 0));
+    EXPECT_THAT(sorted(mode, ReceiveRawColumn::Data), ElementsAre(1, 2, 0));
 }
 
 TEST_F(Order, ParameterColumnsSortByNumbersAndNames)
 {
-    constexpr auto set = ReceiveColumnSet::Arinc825Profile;
+    constexpr auto mode = DisplayMode::Arinc825Profile;
     addParameter(dataId(2, 4, 100), "Beta", ArincType::UChar, "m");
     addParameter(dataId(2, 10, 9), "Alpha", ArincType::UChar, "kg");
     table.showParameters(index);
@@ -97,12 +97,12 @@ TEST_F(Order, ParameterColumnsSortByNumbersAndNames)
     feed(dataId(2, 10, 9, 1), {30});   // 1
     feed(dataId(2, 4, 9), {9});        // 2, unknown
     feed(dataId(2, 10, 9, 1), {30});
-    EXPECT_THAT(sorted(set, ReceiveProfileColumn::Count), ElementsAre(0, 2, 1));
-    EXPECT_THAT(sorted(set, ReceiveProfileColumn::Id), ElementsAre(2, 0, 1));
-    EXPECT_THAT(sorted(set, ReceiveProfileColumn::Key), ElementsAre(2, 0, 1));
-    EXPECT_THAT(sorted(set, ReceiveProfileColumn::Rci), ElementsAre(2, 1, 0));
-    EXPECT_THAT(sorted(set, ReceiveProfileColumn::Parameter), ElementsAre(1, 0, 2));
-    EXPECT_THAT(sorted(set, ReceiveProfileColumn::Unit), ElementsAre(2, 1, 0));
+    EXPECT_THAT(sorted(mode, ReceiveProfileColumn::Count), ElementsAre(0, 2, 1));
+    EXPECT_THAT(sorted(mode, ReceiveProfileColumn::Id), ElementsAre(2, 0, 1));
+    EXPECT_THAT(sorted(mode, ReceiveProfileColumn::Key), ElementsAre(2, 0, 1));
+    EXPECT_THAT(sorted(mode, ReceiveProfileColumn::Rci), ElementsAre(2, 1, 0));
+    EXPECT_THAT(sorted(mode, ReceiveProfileColumn::Parameter), ElementsAre(1, 0, 2));
+    EXPECT_THAT(sorted(mode, ReceiveProfileColumn::Unit), ElementsAre(2, 1, 0));
 }
 
 TEST_F(Order, KeySortsByDocBeforeLocalAndPrivateBit)
@@ -111,10 +111,8 @@ TEST_F(Order, KeySortsByDocBeforeLocalAndPrivateBit)
     table.showParameters(index);
     feed(dataId(2, 4, 9) | lcl, {});
     feed(dataId(2, 4, 10), {});
-    EXPECT_THAT(sorted(ReceiveColumnSet::Arinc825Profile, ReceiveProfileColumn::Key),
-                ElementsAre(0, 1));
-    EXPECT_THAT(sorted(ReceiveColumnSet::Arinc825Profile, ReceiveProfileColumn::Id),
-                ElementsAre(1, 0));
+    EXPECT_THAT(sorted(DisplayMode::Arinc825Profile, ReceiveProfileColumn::Key), ElementsAre(0, 1));
+    EXPECT_THAT(sorted(DisplayMode::Arinc825Profile, ReceiveProfileColumn::Id), ElementsAre(1, 0));
 }
 
 TEST_F(Order, ValuesSortAsNumbersBehindThoseThatAreNone)
@@ -129,7 +127,7 @@ TEST_F(Order, ValuesSortAsNumbersBehindThoseThatAreNone)
     feed(dataId(2, 4, 3), {7});   // 2: a text
     feed(dataId(2, 4, 4), {1});   // 3: true
     feed(dataId(2, 4, 5), {});    // 4: "NO DATA"
-    EXPECT_THAT(sorted(ReceiveColumnSet::Arinc825Profile, ReceiveProfileColumn::Value),
+    EXPECT_THAT(sorted(DisplayMode::Arinc825Profile, ReceiveProfileColumn::Value),
                 ElementsAre(2, 4, 3, 1, 0));
 }
 
@@ -148,7 +146,7 @@ TEST_F(Order, ValueThatIsNotANumberHasItsPlace)
     feed(dataId(2, 4, 1), {0x40, 0, 0, 0});    // 2.0
     feed(dataId(2, 4, 2), {0x7F, 0xC0, 0, 0}); // not a number
     feed(dataId(2, 4, 3), {0xC0, 0, 0, 0});    // -2.0
-    EXPECT_THAT(sorted(ReceiveColumnSet::Arinc825Profile, ReceiveProfileColumn::Value),
+    EXPECT_THAT(sorted(DisplayMode::Arinc825Profile, ReceiveProfileColumn::Value),
                 ElementsAre(1, 2, 0));
 }
 
@@ -159,7 +157,7 @@ TEST_F(Order, ErrorFrameHasNoValue)
     table.showParameters(index);
     feed(dataId(2, 4, 1), {1});
     feed(dataId(2, 4, 2), {9}, 1.0, MessageCan::EFrameType::Error);
-    EXPECT_THAT(sorted(ReceiveColumnSet::Arinc825Profile, ReceiveProfileColumn::Value),
+    EXPECT_THAT(sorted(DisplayMode::Arinc825Profile, ReceiveProfileColumn::Value),
                 ElementsAre(1, 0));
 }
 
@@ -167,10 +165,34 @@ TEST_F(Order, ColumnThatTheSetHasNotSortsNothing)
 {
     feed(5, {1});
     feed(4, {0});
-    for (const auto set : {ReceiveColumnSet::Can, ReceiveColumnSet::Arinc825Raw}) {
-        EXPECT_THAT(sorted(set, -1), ElementsAre(0, 1));
-        EXPECT_THAT(sorted(set, 99), ElementsAre(0, 1));
+    for (const auto mode : {DisplayMode::Can, DisplayMode::Arinc825Raw}) {
+        EXPECT_THAT(sorted(mode, -1), ElementsAre(0, 1));
+        EXPECT_THAT(sorted(mode, 99), ElementsAre(0, 1));
     }
+}
+
+TEST_F(Order, ErrorFramesComeFirstInColumnsThatTheyEmpty)
+{
+    table.showParameters(index);
+    feed(dataId(2, 9, 9), {9});
+    feed(dataId(2, 1, 1), {1});
+    feed(dataId(2, 8, 8), {}, 1.0, MessageCan::EFrameType::Error);
+    constexpr auto mode = DisplayMode::Arinc825Profile;
+    EXPECT_EQ(sorted(mode, ReceiveProfileColumn::Value).front(), 2);
+    EXPECT_EQ(sorted(mode, ReceiveProfileColumn::Parameter).front(), 2);
+    EXPECT_EQ(sorted(mode, ReceiveProfileColumn::Id).front(), 1);
+    EXPECT_EQ(sorted(DisplayMode::Arinc825Raw, ReceiveRawColumn::Data).front(), 2);
+    EXPECT_EQ(sorted(DisplayMode::Arinc825Raw, ReceiveRawColumn::Id).front(), 1);
+    EXPECT_EQ(sorted(DisplayMode::Can, ReceiveColumn::Id).front(), 1);
+}
+
+TEST_F(Order, CanAerospaceLinesSortByWords)
+{
+    feed(1800, {1, 2}); // user-defined, low priority
+    feed(300, {9, 2});  // normal operation
+    feed(0, {5, 1});    // emergency
+    EXPECT_THAT(sorted(DisplayMode::Can, ReceiveColumn::Message), ElementsAre(0, 2, 1));
+    EXPECT_THAT(sorted(DisplayMode::CanAerospace, ReceiveColumn::Message).front(), 2);
 }
 
 } // namespace
