@@ -85,6 +85,10 @@ protected:
     {
         comm::BatchListeners::instance().clear();
         delete m_dialog;
+        for (comm::CanInterface* interface : m_interfaces) {
+            interface->disconnect();
+            interface->selectDevice({}); // frees the device, as the choice of another one does
+        }
     }
 
     void connectInterface(const char* name)
@@ -95,6 +99,7 @@ protected:
         interface->device()->setProperty("InterfaceName", name);
         interface->device()->setProperty("BusName", "Transmit bus test");
         interface->setName(QLatin1String(name));
+        m_interfaces.push_back(interface);
         ASSERT_TRUE(interface->connect());
     }
 
@@ -180,6 +185,7 @@ protected:
     zul::test::TestHome m_home;
     Project m_project{{comm::CanInterface::typeInfo(), ObjectTransmit::typeInfo()},
                       m_home.file(QStringLiteral("default.zul"))};
+    std::vector<comm::CanInterface*> m_interfaces;
     std::vector<MessageCan> m_heard;
     QPointer<gui::DialogTransmit> m_dialog;
     gui::TransmitTable* m_table = nullptr;
