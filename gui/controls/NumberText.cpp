@@ -1,5 +1,7 @@
 #include "gui/controls/NumberText.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -21,7 +23,12 @@ QString numberText(int value, int numberType)
 qlonglong wideNumberFromText(const QString& text)
 {
     constexpr int detectBase = 0;
-    return text.trimmed().toLongLong(nullptr, detectBase);
+    const QString number = text.trimmed();
+    bool isNumber = false;
+    const qlonglong value = number.toLongLong(&isNumber, detectBase);
+    static const QRegularExpression digits(QStringLiteral("^(0[xX][0-9a-fA-F]+|[0-9]+)$"));
+    const bool isTooLarge = !isNumber && digits.match(number).hasMatch();
+    return isTooLarge ? std::numeric_limits<qlonglong>::max() : value;
 }
 
 int numberFromText(const QString& text)

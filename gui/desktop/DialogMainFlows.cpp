@@ -136,6 +136,7 @@ void DialogMain::quit()
 
 bool DialogMain::askToSave()
 {
+    commitEntry();
     if (!m_project.isEdited()) {
         return true;
     }
@@ -151,6 +152,7 @@ bool DialogMain::askToSave()
 
 bool DialogMain::quitCheck()
 {
+    commitEntry();
     if (m_project.isEdited() && lastSection(m_project.fileName()) != defaultName && !askToSave()) {
         return false;
     }

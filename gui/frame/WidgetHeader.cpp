@@ -6,6 +6,8 @@
 #include "gui/frame/WidgetInterfaceSelect.h"
 #include "project/ObjectTypes.h"
 
+#include <QFrame>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -18,6 +20,7 @@ constexpr QColor filterColor(240, 140, 0);
 constexpr int counterFontPixels = 10;
 constexpr int filterFontPixels = 12;
 constexpr int iconExtent = 16;
+constexpr int controlGap = 3;
 constexpr int hexadecimal = 1;
 
 void setForeground(QWidget& widget, const QColor& color)
@@ -36,20 +39,77 @@ WidgetHeader::WidgetHeader(QWidget* parent)
 {
     setIconSize({iconExtent, iconExtent});
     setMovable(false);
+    // All controls are one widget of the bar: what does not fit would else go into a menu that
+    // shows no controls.
+    auto* content = new QWidget(this);
+    content->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_first = new QWidget(content);
+    m_second = new QWidget(content);
+    m_rows = new QGridLayout(content);
+    m_rows->setContentsMargins(0, 0, 0, 0);
+    m_rows->setSpacing(controlGap);
+    m_rows->setColumnStretch(1, 1);
+    m_current = makeRow(m_first);
     buildInput();
-    addSeparator();
+    addLine();
     buildFilter();
-    addSeparator();
+    addLine();
     m_setup = makeButton(QStringLiteral("Dialog Setup"), QStringLiteral("dialogSetup"));
     m_setup->setIcon(gui::icon("dialog-setup"));
     m_numberFormat =
         makeButton(QStringLiteral("Decimal/Hex Display"), QStringLiteral("numberFormat"));
-    addSeparator();
+    m_current = makeRow(m_second);
+    m_between = addLine();
     buildCustomArea();
-    addSeparator();
+    addLine();
     buildOutput();
+    addWidget(content);
     connectControls();
     refresh();
+    wrap();
+}
+
+QHBoxLayout* WidgetHeader::makeRow(QWidget* parent)
+{
+    auto* row = new QHBoxLayout(parent);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(controlGap);
+    return row;
+}
+
+QFrame* WidgetHeader::addLine()
+{
+    auto* line = new QFrame(this);
+    line->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+    m_current->addWidget(line);
+    return line;
+}
+
+void WidgetHeader::resizeEvent(QResizeEvent* event)
+{
+    QToolBar::resizeEvent(event);
+    wrap();
+}
+
+void WidgetHeader::wrap()
+{
+    const int needed =
+        m_first->minimumSizeHint().width() + m_second->minimumSizeHint().width() + controlGap;
+    const bool isWrapped = m_rows->parentWidget()->width() < needed;
+    if (isWrapped == m_isWrapped && m_rows->count() > 0) {
+        return;
+    }
+    m_isWrapped = isWrapped;
+    m_between->setVisible(!isWrapped);
+    m_rows->removeWidget(m_first);
+    m_rows->removeWidget(m_second);
+    m_rows->addWidget(m_first, 0, 0, isWrapped ? Qt::AlignLeft : Qt::Alignment());
+    if (isWrapped) {
+        m_rows->addWidget(m_second, 1, 0, 1, 2);
+    } else {
+        m_rows->addWidget(m_second, 0, 1);
+    }
+    updateGeometry();
 }
 
 QLabel* WidgetHeader::makeCounter(const QString& toolTip, const QString& objectName)
@@ -61,7 +121,7 @@ QLabel* WidgetHeader::makeCounter(const QString& toolTip, const QString& objectN
     counter->setToolTip(toolTip);
     counter->setObjectName(objectName);
     counter->setMargin(2);
-    addWidget(counter);
+    m_current->addWidget(counter);
     return counter;
 }
 
@@ -71,7 +131,8 @@ QToolButton* WidgetHeader::makeButton(const QString& toolTip, const QString& obj
     button->setToolTip(toolTip);
     button->setObjectName(objectName);
     button->setAutoRaise(true);
-    addWidget(button);
+    button->setIconSize(iconSize());
+    m_current->addWidget(button);
     return button;
 }
 
@@ -79,7 +140,7 @@ void WidgetHeader::buildInput()
 {
     m_inputSelect = new gui::WidgetInterfaceSelect(this);
     m_inputSelect->setObjectName(QStringLiteral("inputSelect"));
-    addWidget(m_inputSelect);
+    m_current->addWidget(m_inputSelect);
     m_inputCounter = makeCounter(QStringLiteral("Input Activity"), QStringLiteral("inputCounter"));
     m_inputSwitch =
         makeButton(QStringLiteral("Enable/Disable Input"), QStringLiteral("inputSwitch"));
@@ -100,7 +161,7 @@ void WidgetHeader::buildCustomArea()
     area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_customArea = new QHBoxLayout(area);
     m_customArea->setContentsMargins(0, 0, 0, 0);
-    addWidget(area);
+    m_current->addWidget(area, 1);
 }
 
 void WidgetHeader::buildOutput()
@@ -111,7 +172,7 @@ void WidgetHeader::buildOutput()
         makeCounter(QStringLiteral("Output Activity"), QStringLiteral("outputCounter"));
     m_outputSelect = new gui::WidgetInterfaceSelect(this);
     m_outputSelect->setObjectName(QStringLiteral("outputSelect"));
-    addWidget(m_outputSelect);
+    m_current->addWidget(m_outputSelect);
 }
 
 void WidgetHeader::connectControls()

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+class QFrame;
+class QGridLayout;
 class QHBoxLayout;
 class QLabel;
 class QToolButton;
@@ -44,6 +46,10 @@ public:
     void addCustomWidget(QWidget* widget);
     void addCustomStretch();
 
+    /// Whether the window is so narrow that the custom area and the output stand in a row of their
+    /// own below the others.
+    bool isWrapped() const { return m_isWrapped; }
+
     bool isInputOn() const { return m_inputOn; }
     bool isOutputOn() const { return m_outputOn; }
     bool isFilterOn() const { return m_filterOn; }
@@ -69,9 +75,15 @@ private slots:
     void slotInputInterface(const QString& name);
     void slotOutputInterface(const QString& name);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    QHBoxLayout* makeRow(QWidget* parent);
     QLabel* makeCounter(const QString& toolTip, const QString& objectName);
     QToolButton* makeButton(const QString& toolTip, const QString& objectName);
+    QFrame* addLine();
+    void wrap();
     void buildInput();
     void buildFilter();
     void buildCustomArea();
@@ -81,6 +93,7 @@ private:
     void refreshFilter();
     void refreshCounters();
 
+    bool m_isWrapped = false;
     bool m_inputOn = true;
     bool m_outputOn = true;
     bool m_filterOn = false;
@@ -91,6 +104,11 @@ private:
     QString m_inputInterface;
     QString m_outputInterface;
 
+    QWidget* m_first = nullptr;  // input, filter, setup and number format
+    QWidget* m_second = nullptr; // custom area and output
+    QGridLayout* m_rows = nullptr;
+    QFrame* m_between = nullptr;      // the line between the two
+    QHBoxLayout* m_current = nullptr; // the row that is being built
     gui::WidgetInterfaceSelect* m_inputSelect = nullptr;
     QLabel* m_inputCounter = nullptr;
     QToolButton* m_inputSwitch = nullptr;

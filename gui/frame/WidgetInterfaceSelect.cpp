@@ -12,6 +12,8 @@ namespace gui {
 
 namespace {
 
+constexpr int smallestWidth = 30;
+
 // A menu reads "&" as the mark of a shortcut.
 QString menuText(QString name)
 {
@@ -34,6 +36,7 @@ WidgetInterfaceSelect::WidgetInterfaceSelect(QWidget* parent)
     m_button->setObjectName(QStringLiteral("interfaceButton"));
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->addWidget(m_button);
+    m_button->setMinimumWidth(smallestWidth); // in a narrow bar the name is cut
     connect(m_menu, &QMenu::triggered, this, &WidgetInterfaceSelect::slotInterfaceSelect);
     observe(&Kernel::instance(), Kernel::interfacesAspect);
     rebuildMenu();

@@ -31,7 +31,7 @@ namespace gui {
 namespace {
 
 constexpr int statusFontPixels = 10;
-constexpr int shownFormatLetters = 8;
+constexpr int shownFormatLetters = 4;
 
 } // namespace
 
@@ -83,6 +83,7 @@ void DialogTrace::buildHeader()
     m_startStop = new QToolButton(this);
     m_startStop->setObjectName(QStringLiteral("startStop"));
     m_startStop->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_startStop->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     m_header->addCustomWidget(m_startStop);
     m_recordMode = new QwtComboBox(0, this);
     m_recordMode->setObjectName(QStringLiteral("recordMode"));

@@ -4,6 +4,8 @@
 #include "gui/controls/QwtPushButton.h"
 #include "gui/traffic/WheelGuard.h"
 
+#include <QEvent>
+#include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -56,6 +58,7 @@ QwtTransmitButton::QwtTransmitButton(int index, QWidget* parent)
     // Else a running line would be sent every millisecond while "100" is being typed.
     m_rateBox->setKeyboardTracking(false);
     WheelGuard::protect(m_rateBox);
+    m_rateBox->findChild<QLineEdit*>()->installEventFilter(this);
     m_button->setToolTip(QStringLiteral("Transmit, Start/Stop Transmit"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -82,6 +85,17 @@ void QwtTransmitButton::setMode(int mode)
 {
     m_mode = mode;
     refresh();
+}
+
+// "Single" is no number to which digits could be added: a click marks it, so that they replace it.
+bool QwtTransmitButton::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* text = qobject_cast<QLineEdit*>(watched);
+    if (event->type() == QEvent::MouseButtonRelease && text != nullptr && m_rateBox->value() == 0) {
+        text->selectAll();
+        return true;
+    }
+    return false;
 }
 
 void QwtTransmitButton::slotRate(int v)

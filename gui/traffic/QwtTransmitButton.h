@@ -28,6 +28,9 @@ signals:
     void transmitMode(int index, int mode);
     void transmitRate(int index, int rate);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private slots:
     void slotRate(int v);
     void slotTransmit();

@@ -40,6 +40,33 @@ TransmitTable::TransmitTable(QWidget* parent) : QTableWidget(parent)
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, rowsMoved);
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, rowsMoved);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &TransmitTable::fitColumns);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* field) { showField(field); });
+}
+
+// Tab may go to a field out of view, and nobody is to type into what cannot be seen.
+void TransmitTable::showField(const QWidget* field)
+{
+    if (field == nullptr || !viewport()->isAncestorOf(field)) {
+        return;
+    }
+    const QWidget* cell = field;
+    while (cell->parentWidget() != viewport()) {
+        cell = cell->parentWidget();
+    }
+    const int row = verticalHeader()->visualIndexAt(cell->y() + cell->height() / 2);
+    if (row < 0) { // above the view
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + cell->y());
+    } else {
+        scrollTo(model()->index(row, NameColumn));
+    }
+    const QRect place(field->mapTo(viewport(), QPoint()), field->size());
+    QScrollBar* across = horizontalScrollBar();
+    if (place.left() < 0) {
+        across->setValue(across->value() + place.left());
+    } else if (place.right() >= viewport()->width()) {
+        across->setValue(across->value() + place.right() - viewport()->width() + 1);
+    }
 }
 
 void TransmitTable::commitEntry()
@@ -85,6 +112,11 @@ int TransmitTable::appendLine(SendMsg* line)
     item->setFont(bold);
     item->setData(Qt::UserRole, QVariant::fromValue(line));
     setItem(row, NameColumn, item);
+    for (const int column : {MessageColumn, TransmitColumn}) {
+        auto* place = new QTableWidgetItem;
+        place->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled); // no text to be typed there
+        setItem(row, column, place);
+    }
     return row;
 }
 

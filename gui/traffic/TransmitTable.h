@@ -62,6 +62,7 @@ protected:
 
 private:
     void fitColumns();
+    void showField(const QWidget* field);
     void requestControls(int row);
     void giveBackControls(int top, int bottom);
 

@@ -282,6 +282,15 @@ TEST_F(CanAsEditor, BitsStandFromRightToLeftInTwoRowsWithAGap)
         EXPECT_EQ(bit(i)->y(), bit(i - 1)->y());
     }
     for (const QLabel* label : page()->findChildren<QLabel*>()) {
+        const QPoint middle = label->mapTo(&m_editor, label->rect().center());
+        int below = -1;
+        for (int i = 0; i < 32; ++i) {
+            const QRect box(bit(i)->mapTo(&m_editor, QPoint()), bit(i)->size());
+            const bool isUnder = middle.x() >= box.left() && middle.x() <= box.right() &&
+                                 middle.y() > box.center().y() && middle.y() < box.bottom() + 12;
+            below = isUnder ? i : below;
+        }
+        EXPECT_EQ(label->text(), QString::asprintf("%2d", below));
         const QPoint end = label->mapTo(&m_editor, label->rect().bottomRight());
         EXPECT_LE(end.y(), 48) << qPrintable(label->text()); // within the frame
         EXPECT_EQ(label->font().pixelSize(), 8);
@@ -428,7 +437,27 @@ TEST_F(CanAsEditor, ShowsTheValueOfAMessage)
     msg.data[1] = 0;
     set(msg);
     EXPECT_EQ(lines()[0]->text(), QString());
-    EXPECT_TRUE(m_given.empty());
+}
+
+TEST_F(CanAsEditor, ShowingAMessageChangesNothingOfIt)
+{
+    for (int code = 0; code < 30; ++code) {
+        SendMsg msg;
+        msg.byteCount = 8;
+        msg.data[1] = static_cast<std::uint8_t>(code);
+        for (int i = 4; i < 8; ++i) {
+            msg.data[i] = static_cast<std::uint8_t>(i == 5 ? 0 : 0xF0 + i);
+        }
+        m_given.clear();
+        m_editor.setMessage(5, msg);
+        for (const int numberType : {1, 0}) {
+            m_editor.setNumberType(numberType);
+            for (int i = 0; i < 8; ++i) {
+                EXPECT_EQ(m_editor.message().data[i], msg.data[i]) << code << " byte " << i;
+            }
+        }
+        EXPECT_TRUE(m_given.empty()) << code;
+    }
 }
 
 TEST_F(CanAsEditor, UnknownDataTypeLeavesWhatIsInUse)

@@ -107,7 +107,8 @@ TEST(QwtSpinBox, NumberThatIsTooLargeIsTheLargestAndNot0)
 {
     QwtSpinBox box;
     box.setRange(0, 2047);
-    for (const char* text : {"0x80000000", "0xFFFFFFFF", "4294967295", "0x1FFFFFFFF"}) {
+    for (const char* text : {"0x80000000", "0xFFFFFFFF", "4294967295", "0x1FFFFFFFF",
+                             "99999999999999999999", "0xFFFFFFFFFFFFFFFFF"}) {
         box.setValue(5);
         box.selectAll();
         QTest::keyClicks(&box, QLatin1String(text));

@@ -430,7 +430,9 @@ TEST_F(RawEditor, ChannelBringsItsPageAndTheSameBitsUnderNewNames)
     EXPECT_EQ(number("C-FID")->value(), 10);
     EXPECT_TRUE(find<QCheckBox>("SMT")->isChecked());
     EXPECT_EQ(number("SID")->value(), 0xABC >> 2 & 127);
+    m_given.clear();
     choose(find<QComboBox>("lcc"), 3);
+    EXPECT_EQ(m_given.size(), 1U) << "one change is told once";
     EXPECT_EQ(number("SA")->value(), 10);
     EXPECT_EQ(number("DP")->value(), 0xABC & 63);
     const int address = pages->currentIndex();

@@ -132,6 +132,21 @@ TEST_F(ReplayWindow, HasItsControls)
     EXPECT_EQ(controls(), "on off off off Start");
 }
 
+TEST_F(ReplayWindow, OutputCanBeChosenInTheNarrowestWindow)
+{
+    m_dialog->show();
+    m_dialog->resize(350, 300);
+    QApplication::processEvents();
+    const auto* header = m_dialog->findChild<WidgetHeader*>();
+    for (const char* name : {"outputSwitch", "outputCounter", "outputSelect"}) {
+        const auto* control = find<QWidget>(name);
+        EXPECT_TRUE(control->isVisible()) << name;
+        EXPECT_TRUE(
+            header->rect().contains(QRect(control->mapTo(header, QPoint()), control->size())))
+            << name;
+    }
+}
+
 TEST_F(ReplayWindow, CancelledDialogChangesNothing)
 {
     load();

@@ -142,6 +142,27 @@ TEST_F(TraceWindow, HasItsControls)
     EXPECT_FALSE(find<QWidget>("outputSwitch")->isEnabled());
 }
 
+TEST_F(TraceWindow, TraceCanBeStartedInTheNarrowestWindow)
+{
+    m_dialog->show();
+    const auto* header = m_dialog->findChild<WidgetHeader*>();
+    for (const int width : {1200, 550, 350}) {
+        m_dialog->resize(width, 300);
+        QApplication::processEvents();
+        EXPECT_EQ(header->isWrapped(), width < 700) << width;
+        for (const char* name : {"inputSelect", "filterSetup", "numberFormat", "startStop",
+                                 "recordMode", "outputSwitch", "outputSelect"}) {
+            const auto* control = find<QWidget>(name);
+            const QRect place(control->mapTo(header, QPoint()), control->size());
+            EXPECT_TRUE(control->isVisible()) << name;
+            EXPECT_TRUE(header->rect().contains(place))
+                << name << " at " << width << ": " << place.right();
+        }
+        const auto* start = find<QWidget>("startStop");
+        EXPECT_GE(start->width(), start->sizeHint().width());
+    }
+}
+
 TEST_F(TraceWindow, SelectionsOfferTheirEntries)
 {
     const auto* display = find<gui::QwtComboBox>("displayMode");

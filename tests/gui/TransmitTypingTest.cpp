@@ -1,3 +1,4 @@
+#include "gui/frame/MessageBoxes.h"
 #include "gui/frame/WidgetHeader.h"
 #include "gui/traffic/ValueSlider.h"
 #include "gui/traffic/WidgetCanAs.h"
@@ -6,6 +7,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 #include <QWheelEvent>
@@ -52,6 +54,101 @@ TEST_F(TransmitTyping, TabGoesFromCellToCellAndSelectsNothing)
         EXPECT_EQ(QApplication::focusWidget(), row[i + 1]);
     }
     EXPECT_TRUE(m_table->selectedRows().empty());
+}
+
+TEST_F(TransmitTyping, FieldThatGetsTheFocusComesIntoView)
+{
+    show(40);
+    m_dialog->resize(500, 300);
+    QApplication::processEvents();
+    for (const int row : {30, 0, 20}) {
+        QLineEdit* cell = cells(row)[7];
+        cell->setFocus();
+        const QRect place(cell->mapTo(m_table->viewport(), QPoint()), cell->size());
+        EXPECT_TRUE(m_table->viewport()->rect().contains(place)) << row;
+    }
+}
+
+TEST_F(TransmitTyping, ClickIntoARateOfSingleLetsItBeReplaced)
+{
+    show(1);
+    auto* text = rateBox(0)->findChild<QLineEdit*>();
+    QTest::mouseClick(text, Qt::LeftButton);
+    QTest::keyClicks(rateBox(0), QStringLiteral("100"));
+    QTest::keyClick(rateBox(0), Qt::Key_Return);
+    EXPECT_EQ(line(0).rate, 100);
+}
+
+TEST_F(TransmitTyping, CellsWithoutAnEditorTakeNoText)
+{
+    show(1, 77);
+    const QRect place = m_table->visualItemRect(m_table->item(0, 1));
+    QTest::mouseDClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
+    const auto fields =
+        m_table->viewport()->findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
+    EXPECT_TRUE(fields.empty()) << "no text is being edited";
+}
+
+TEST_F(TransmitTyping, WheelChangesNoControlOfARowThatHasNotTheFocus)
+{
+    for (const int mode : {0, 3, 4}) {
+        delete m_dialog;
+        m_object->lines().clear();
+        show(1, mode);
+        line(0).rate = 50;
+        QWidget* row = m_table->editor(0);
+        QList<QWidget*> controls{rateBox(0)};
+        for (auto* box : row->findChildren<QComboBox*>()) {
+            controls.append(box);
+        }
+        for (auto* box : row->findChildren<QAbstractSpinBox*>()) {
+            controls.append(box);
+        }
+        for (auto* slider : row->findChildren<QSlider*>()) {
+            controls.append(slider);
+        }
+        for (QWidget* control : controls) {
+            QWheelEvent wheel(QPointF(5, 5), control->mapToGlobal(QPoint(5, 5)), {}, {0, 120},
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(control, &wheel);
+            EXPECT_FALSE(wheel.isAccepted()) << qPrintable(control->objectName());
+        }
+    }
+}
+
+TEST_F(TransmitTyping, OpeningTheWindowDoesNotMarkTheProject)
+{
+    addLine(1).byteCount = 8;
+    m_project.save(QString());
+    m_dialog = new gui::DialogTransmit(m_object, nullptr);
+    EXPECT_FALSE(m_project.isEdited());
+}
+
+TEST_F(TransmitTyping, RowsBehindADeletedOneActOnTheirOwnLines)
+{
+    show(3);
+    select(0);
+    gui::MessageBoxes::setNextAnswer(QMessageBox::Yes);
+    click("delete");
+    ASSERT_EQ(m_object->lines().size(), 2U);
+    EXPECT_EQ(m_table->editor(0)->index(), 0);
+    type(cells(0)[0], "77");
+    EXPECT_EQ(line(0).id, 1U);
+    EXPECT_EQ(line(0).data[0], 77);
+    type(rateBox(1), "30");
+    EXPECT_EQ(line(1).rate, 30);
+    EXPECT_EQ(gui::TransmitTable::lineOf(*m_table->item(1, 0)), &line(1));
+}
+
+TEST_F(TransmitTyping, LineThatIsStartedAfterALongTimeIsDueAtOnce)
+{
+    show(1);
+    line(0).rate = 1000;
+    line(0).lastSent = 10.0;
+    QMetaObject::invokeMethod(m_dialog.data(), "slotTransmitMode", Q_ARG(int, 0), Q_ARG(int, 1));
+    EXPECT_EQ(line(0).lastSent, 10.0);
+    tick();
+    EXPECT_EQ(m_interface.batches.size(), 1U);
 }
 
 TEST_F(TransmitTyping, KeysWithoutUseInAFieldDoNotReachTheTable)
@@ -133,23 +230,27 @@ TEST_F(TransmitTyping, WheelOverTheDisplayModeChangesNothing)
 
 TEST_F(TransmitTyping, RowsFarFromTheViewGiveTheirControlsBackAndGetThemAgain)
 {
-    show(1000);
+    show(400);
     QScrollBar* bar = m_table->verticalScrollBar();
+    const auto living = [this] { return m_table->findChildren<gui::MessageEditor*>().size(); };
+    const int most = gui::TransmitTable::firstRows + 2 * gui::TransmitTable::keptRows + 50;
     for (int value = 0; value <= bar->maximum(); value += bar->pageStep()) {
         bar->setValue(value);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+        ASSERT_LT(living(), most);
     }
-    const int most = gui::TransmitTable::firstRows + 2 * gui::TransmitTable::keptRows + 50;
     EXPECT_LT(editorCount(), most);
-    EXPECT_EQ(m_table->editor(500), nullptr);
-    m_table->scrollToItem(m_table->item(500, 0));
-    ASSERT_NE(m_table->editor(500), nullptr);
-    EXPECT_EQ(m_table->editor(500)->message().id, 500U);
-    EXPECT_EQ(m_table->editor(500)->index(), 500);
+    EXPECT_EQ(m_table->editor(150), nullptr);
+    m_table->scrollToItem(m_table->item(150, 0));
+    ASSERT_NE(m_table->editor(150), nullptr);
+    EXPECT_EQ(m_table->editor(150)->message().id, 150U);
+    EXPECT_EQ(m_table->editor(150)->index(), 150);
 }
 
 TEST_F(TransmitTyping, RowThatIsBeingTypedIntoKeepsItsControls)
 {
-    show(1000);
+    show(500);
     m_table->scrollToItem(m_table->item(300, 0));
     cells(300)[0]->setFocus();
     m_table->verticalScrollBar()->setValue(m_table->verticalScrollBar()->maximum());
