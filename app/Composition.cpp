@@ -2,6 +2,7 @@
 
 #include "comm/CanInterface.h"
 #include "gui/controls/Look.h"
+#include "gui/measure/DialogGraph.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -83,6 +84,11 @@ void registerWindowMakers()
                   [](Object& object, QWidget* parent) -> gui::DialogBase* {
                       auto* replay = dynamic_cast<ObjectReplay*>(&object);
                       return replay != nullptr ? new gui::DialogReplay(replay, parent) : nullptr;
+                  });
+    registerMaker(ObjectType::Graph, findObjectType(ObjectType::Graph)->title, "oscilloscope",
+                  [](Object& object, QWidget* parent) -> gui::DialogBase* {
+                      auto* graph = dynamic_cast<ObjectGraph*>(&object);
+                      return graph != nullptr ? new gui::DialogGraph(graph, parent) : nullptr;
                   });
 }
 

@@ -30,7 +30,7 @@ protected:
     void requestRepaint() override { ++repaints; }
 };
 
-TEST(GraphEngineStart, IsAsTold)
+TEST(GraphEngineStart, HasItsDefaults)
 {
     const GraphEngine engine;
     const GraphState& state = engine.state();
