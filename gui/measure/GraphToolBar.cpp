@@ -3,8 +3,11 @@
 #include "gui/controls/Look.h"
 
 #include <QButtonGroup>
+#include <QGridLayout>
+#include <QResizeEvent>
 #include <QToolButton>
-#include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace gui {
 
@@ -13,15 +16,18 @@ namespace {
 constexpr int buttonSide = 32; // pixels
 constexpr QSize iconSize(24, 24);
 constexpr int modeFontPixels = 11;
+constexpr int fewestRows = 4;
 
 } // namespace
 
-GraphToolBar::GraphToolBar(QWidget* parent) : QWidget(parent), m_group(new QButtonGroup(this))
+GraphToolBar::GraphToolBar(QWidget* parent)
+    : QWidget(parent), m_group(new QButtonGroup(this)), m_grid(new QGridLayout(this))
 {
     m_group->setExclusive(false);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setSpacing(0);
+    m_grid->setSizeConstraint(QLayout::SetNoConstraint); // fewer rows than there are now will do
+    setMinimumHeight(fewestRows * buttonSide);
     for (const GraphButton& row : graphButtons) {
         auto* made = new QToolButton(this);
         made->setFixedSize(buttonSide, buttonSide);
@@ -34,14 +40,35 @@ GraphToolBar::GraphToolBar(QWidget* parent) : QWidget(parent), m_group(new QButt
             made->setIconSize(iconSize);
         }
         m_group->addButton(made, static_cast<int>(row.command));
-        layout->addWidget(made);
     }
     QFont small = font();
     small.setPixelSize(modeFontPixels);
     button(GraphCommand::AutoMode)->setFont(small);
-    layout->addStretch();
+    arrange(static_cast<int>(graphButtons.size()));
     connect(m_group, &QButtonGroup::idPressed, this, &GraphToolBar::signalPressed);
     connect(m_group, &QButtonGroup::idReleased, this, &GraphToolBar::signalReleased);
+}
+
+void GraphToolBar::resizeEvent(QResizeEvent* event)
+{
+    arrange(std::max(event->size().height() / buttonSide, fewestRows));
+    QWidget::resizeEvent(event);
+}
+
+void GraphToolBar::arrange(int rows)
+{
+    const int buttons = static_cast<int>(graphButtons.size());
+    rows = std::min(rows, buttons);
+    if (rows == m_rows) {
+        return;
+    }
+    m_grid->setRowStretch(m_rows, 0);
+    m_rows = rows;
+    for (int id = 0; id < buttons; ++id) {
+        m_grid->addWidget(m_group->button(id), id % rows, id / rows);
+    }
+    m_grid->setRowStretch(rows, 1);
+    setFixedWidth((buttons + rows - 1) / rows * buttonSide);
 }
 
 QToolButton* GraphToolBar::button(GraphCommand command) const

@@ -6,6 +6,7 @@
 #include <cstdint>
 
 class QButtonGroup;
+class QGridLayout;
 class QToolButton;
 
 namespace gui {
@@ -49,7 +50,7 @@ inline constexpr std::array<GraphButton, 11> graphButtons{{
 }};
 // clang-format on
 
-/// The column of buttons beside the plot.
+/// The column of buttons beside the plot; a second one takes what has no room in the first.
 class GraphToolBar : public QWidget
 {
     Q_OBJECT
@@ -66,8 +67,15 @@ signals:
     void signalPressed(int id);
     void signalReleased(int id);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void arrange(int rows);
+
     QButtonGroup* m_group;
+    QGridLayout* m_grid;
+    int m_rows = 0;
 };
 
 } // namespace gui

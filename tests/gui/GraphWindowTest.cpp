@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QSplitter>
 
+#include <set>
+
 // The oscilloscope's window where there is no OpenGL: all of it but the picture.
 
 namespace zul::test {
@@ -90,6 +92,34 @@ TEST_F(GraphWindow, HasItsElevenButtons)
     for (const char* text : {"Add Parameter", "Delete Parameter", "Configure Interface"}) {
         EXPECT_FALSE(tool(text).icon().pixmap(16).isNull()) << text;
     }
+}
+
+TEST_F(GraphWindow, ButtonsStandInOneColumnAndInTwoWhereThereIsNoRoom)
+{
+    m_dialog->show();
+    const auto columns = [this] {
+        std::set<int> found;
+        QRegion taken;
+        for (const gui::GraphButton& row : gui::graphButtons) {
+            const QToolButton& button = command(row.command);
+            EXPECT_EQ(button.size(), QSize(32, 32));
+            EXPECT_FALSE(taken.intersects(button.geometry())) << row.toolTip;
+            EXPECT_TRUE(button.parentWidget()->rect().contains(button.geometry())) << row.toolTip;
+            taken += button.geometry();
+            found.insert(button.x());
+        }
+        return found.size();
+    };
+    m_dialog->resize(600, 500);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(columns(), 1U);
+    m_dialog->resize(600, 300);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_dialog->height(), 300);
+    EXPECT_EQ(columns(), 2U);
+    m_dialog->resize(600, 500);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(columns(), 1U);
 }
 
 TEST_F(GraphWindow, TableHasItsForm)
