@@ -83,6 +83,10 @@ function(zul_test name)
         endif()
     endif()
     if(ARG_ON_DISPLAY)
+        if(ZUL_SANITIZE MATCHES "address")
+            target_sources(${name} PRIVATE
+                ${PROJECT_SOURCE_DIR}/tests/sanitizers/PinnedDrivers.cpp)
+        endif()
         add_test(NAME ${name}
             COMMAND xvfb-run -a -s "-screen 0 1280x1024x24" $<TARGET_FILE:${name}>)
         set_tests_properties(${name} PROPERTIES

@@ -19,6 +19,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <QToolButton>
 
 namespace gui {
 

@@ -17,7 +17,9 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <array>
 #include <limits>
+#include <utility>
 
 namespace gui {
 
@@ -52,8 +54,8 @@ void addRow(QFormLayout& form, const char* label, QLayout* controls)
 
 } // namespace
 
-DialogSelectParameter::DialogSelectParameter(const ProfileParameter& parameter, QWidget* parent)
-    : QDialog(parent), m_parameter(parameter)
+DialogSelectParameter::DialogSelectParameter(ProfileParameter parameter, QWidget* parent)
+    : QDialog(parent), m_parameter(std::move(parameter))
 {
     setWindowTitle(QStringLiteral("Select Parameter"));
     setWindowIcon(icon("parameter"));

@@ -22,7 +22,7 @@ class DialogSelectParameter : public QDialog
     Q_OBJECT
 
 public:
-    explicit DialogSelectParameter(const ProfileParameter& parameter, QWidget* parent = nullptr);
+    explicit DialogSelectParameter(ProfileParameter parameter, QWidget* parent = nullptr);
 
     const ProfileParameter& parameter() const { return m_parameter; }
 

@@ -108,8 +108,9 @@ void GlyphTexture::draw(const GraphText& text)
     const auto height = static_cast<float>(m_cellHeight);
     for (const char letter : text.text) {
         const int code = static_cast<unsigned char>(letter);
+        const int row = code / lettersInRow;
         const auto u = static_cast<float>(code % lettersInRow * (m_cellWidth + cellGap));
-        const auto v = static_cast<float>(code / lettersInRow * (m_cellHeight + cellGap));
+        const auto v = static_cast<float>(row * (m_cellHeight + cellGap));
         addCorner(left, bottom, u, v + height);
         addCorner(left + width, bottom, u + width, v + height);
         addCorner(left + width, bottom + height, u + width, v);

@@ -76,7 +76,7 @@ QToolButton* GraphToolBar::button(GraphCommand command) const
     return qobject_cast<QToolButton*>(m_group->button(static_cast<int>(command)));
 }
 
-void GraphToolBar::setModes(bool isAutomatic, bool isSplit)
+void GraphToolBar::setModes(bool isAutomatic, bool isSplit) const
 {
     QToolButton* mode = button(GraphCommand::AutoMode);
     mode->setChecked(isAutomatic);

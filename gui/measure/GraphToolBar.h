@@ -60,7 +60,7 @@ public:
 
     QToolButton* button(GraphCommand command) const;
     /// Shows the modes, without a signal.
-    void setModes(bool isAutomatic, bool isSplit);
+    void setModes(bool isAutomatic, bool isSplit) const;
 
 signals:
     /// Both with the button's id.
