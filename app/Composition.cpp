@@ -2,6 +2,7 @@
 
 #include "comm/CanInterface.h"
 #include "gui/controls/Look.h"
+#include "gui/measure/DialogGraph.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -78,6 +79,7 @@ void registerWindowMakers()
     registerMaker<gui::DialogTransmit, ObjectTransmit>(ObjectType::Transmit, "transmit");
     registerMaker<gui::DialogTrace, ObjectTrace>(ObjectType::Trace, "trace");
     registerMaker<gui::DialogReplay, ObjectReplay>(ObjectType::Replay, "replay");
+    registerMaker<gui::DialogGraph, ObjectGraph>(ObjectType::Graph, "oscilloscope");
 }
 
 } // namespace app

@@ -64,10 +64,11 @@ endfunction()
 add_library(zul_test_warnings INTERFACE)
 target_compile_options(zul_test_warnings INTERFACE -Wno-null-dereference)
 
-# zul_test(name [QT] SOURCES ... LINKS ... [LABELS ...])
-# One test program, run by CTest as one test.
+# zul_test(name [QT] [ON_DISPLAY] SOURCES ... LINKS ... [LABELS ...])
+# One test program, run by CTest as one test. ON_DISPLAY gives it a virtual display of its own, with
+# OpenGL in software.
 function(zul_test name)
-    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    cmake_parse_arguments(ARG "QT;ON_DISPLAY" "" "SOURCES;LINKS;LABELS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock zul_warnings zul_test_warnings)
     set_target_properties(${name} PROPERTIES
@@ -81,10 +82,24 @@ function(zul_test name)
                 ${PROJECT_SOURCE_DIR}/tests/sanitizers/AnnotatedQMutex.cpp)
         endif()
     endif()
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        TIMEOUT 300
-        ENVIRONMENT "TZ=UTC;QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    if(ARG_ON_DISPLAY)
+        if(ZUL_SANITIZE MATCHES "address")
+            target_sources(${name} PRIVATE
+                ${PROJECT_SOURCE_DIR}/tests/sanitizers/PinnedDrivers.cpp)
+        endif()
+        add_test(NAME ${name}
+            COMMAND xvfb-run -a -s "-screen 0 1280x1024x24" $<TARGET_FILE:${name}>)
+        set_tests_properties(${name} PROPERTIES
+            TIMEOUT 300
+            ENVIRONMENT "TZ=UTC;QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;LC_ALL=C.UTF-8"
+            # Qt's platform plug-in copies a part of an X reply, which need not end with a zero.
+            ENVIRONMENT_MODIFICATION "ASAN_OPTIONS=string_append::strict_string_checks=0")
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+        set_tests_properties(${name} PROPERTIES
+            TIMEOUT 300
+            ENVIRONMENT "TZ=UTC;QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    endif()
     if(ARG_LABELS)
         set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}")
     endif()

@@ -46,14 +46,17 @@ QString FileDialogs::openFile(QWidget* parent, const QString& title, const QStri
 }
 
 QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QString& filter,
-                              const QString& defaultSuffix)
+                              const QString& defaultSuffix, const QString& path)
 {
-    return choose(title, filter, QString(), [&] {
+    return choose(title, filter, path, [&] {
         // The static chooser knows no suffix: it would ask about one name, and another be written.
         QFileDialog dialog(parent, title, QString(), filter);
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
         dialog.setDefaultSuffix(defaultSuffix);
+        if (!path.isEmpty()) {
+            dialog.selectFile(path);
+        }
         return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
     });
 }

@@ -14,9 +14,10 @@ public:
     /// Starts at `path`, which may be a file; at the working directory if it is empty.
     static QString openFile(QWidget* parent, const QString& title, const QString& filter,
                             const QString& path = QString());
-    /// A name without a point gets `defaultSuffix`. Asks before an existing file is chosen.
+    /// A name without a point gets `defaultSuffix`. Asks before an existing file is chosen. Offers
+    /// the file `path`, if there is one given.
     static QString saveFile(QWidget* parent, const QString& title, const QString& filter,
-                            const QString& defaultSuffix);
+                            const QString& defaultSuffix, const QString& path = QString());
 
     /// The next chooser shows nothing and returns this; for tests.
     static void setNextFileName(const QString& path);

@@ -3,6 +3,7 @@
 #include "comm/CanInterface.h"
 #include "gui/controls/WidgetStatus.h"
 #include "gui/frame/DialogBase.h"
+#include "gui/measure/DialogGraph.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -86,11 +87,16 @@ TEST_F(Composition, TransmitObjectMakesATransmitWindow)
     expectWindow<gui::DialogTransmit>(ObjectType::Transmit, "Transmit Window");
 }
 
+TEST_F(Composition, GraphObjectMakesAnOscilloscope)
+{
+    expectWindow<gui::DialogGraph>(ObjectType::Graph, "Oscilloscope");
+}
+
 TEST_F(Composition, EveryTypeHasAnIconAndThoseWithoutAWindowMakeNone)
 {
     const std::set<ObjectType> withWindow{ObjectType::CanInterface, ObjectType::Receive,
-                                          ObjectType::Trace, ObjectType::Replay,
-                                          ObjectType::Transmit};
+                                          ObjectType::Trace,        ObjectType::Replay,
+                                          ObjectType::Transmit,     ObjectType::Graph};
     EXPECT_EQ(m_project.types().size(), 10U);
     for (const auto& [type, info] : m_project.types()) {
         EXPECT_FALSE(info.icon.isNull()) << static_cast<int>(type);

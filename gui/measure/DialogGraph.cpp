@@ -1,0 +1,442 @@
+#include "gui/measure/DialogGraph.h"
+
+#include "core/Clock.h"
+#include "core/Latin1.h"
+#include "gui/frame/DialogFilter.h"
+#include "gui/frame/FileDialogs.h"
+#include "gui/frame/MessageBoxes.h"
+#include "gui/frame/WidgetHeader.h"
+#include "gui/measure/DialogGraphSetup.h"
+#include "gui/measure/DialogSelectParameter.h"
+#include "gui/measure/GraphParameterTable.h"
+#include "gui/measure/GraphToolBar.h"
+#include "gui/measure/WidgetGraph.h"
+#include "measure/ZoomRange.h"
+#include "project/ObjectGraph.h"
+#include "project/Project.h"
+
+#include <QPainter>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <QToolButton>
+
+namespace gui {
+
+namespace {
+
+struct Rgb
+{
+    explicit Rgb(const QString& name)
+        : color(name),
+          red(static_cast<float>(color.redF())),
+          green(static_cast<float>(color.greenF())),
+          blue(static_cast<float>(color.blueF()))
+    {
+    }
+
+    QColor color;
+    float red;
+    float green;
+    float blue;
+};
+
+} // namespace
+
+DialogGraph::DialogGraph(ObjectGraph* object, QWidget* parent)
+    : DialogBase(object, parent),
+      m_graph(object),
+      m_feed(zul::wallClock()),
+      m_timer(new QTimer(this))
+{
+    build();
+    m_engine->setParameterCount(maxParameters);
+    m_engine->setSplitMode(1);
+    connectControls();
+    showSettings();
+    m_timer->start(zoomPeriodMs);
+}
+
+DialogGraph::~DialogGraph() = default;
+
+void DialogGraph::setObject(Object* object)
+{
+    DialogBase::setObject(object);
+    m_graph = dynamic_cast<ObjectGraph*>(object);
+    m_filterDialog->setFilter(nullptr); // the filter was the former object's
+    m_filterDialog->hide();
+    m_setupDialog->setObject(nullptr);
+    m_setupDialog->hide();
+}
+
+void DialogGraph::receive(MessageContainer& batch)
+{
+    if (m_feed.receive(batch, zul::wallClock(), m_graph, *m_engine)) {
+        m_header->setInputCount(m_feed.frameCount());
+    }
+}
+
+void DialogGraph::updateDialog()
+{
+    showSettings();
+}
+
+void DialogGraph::showSettings()
+{
+    if (m_graph == nullptr) {
+        return;
+    }
+    const QScopedValueRollback<bool> guard(m_updating, true);
+    m_header->setInputOn(m_graph->settings().inputOn);
+    m_header->setFilterOn(m_graph->filter().isOn());
+    m_header->setOutputOn(false);
+    m_header->setInputInterface(m_graph->settings().inputInterface);
+    refreshTable();
+    applySettings();
+}
+
+void DialogGraph::applySettings()
+{
+    const auto& graph = m_graph->graph();
+    const Rgb plot(graph.backgroundColor);
+    const Rgb grid(graph.gridColor);
+    const Rgb label(graph.labelColor);
+    const Rgb back(graph.labelBackColor);
+    m_engine->setRange(static_cast<float>(graph.xRange));
+    m_engine->setSplitMode(graph.splitMode);
+    m_engine->setAutoMode(graph.autoMode);
+    m_engine->setCursorMode(graph.cursorMode);
+    m_engine->setPlotColor(plot.red, plot.green, plot.blue);
+    m_engine->setGridOn(graph.gridOn);
+    m_engine->setGridColor(grid.red, grid.green, grid.blue);
+    m_engine->setLabelColor(label.red, label.green, label.blue);
+    m_engine->setBackColor(back.red, back.green, back.blue);
+    m_engine->setCursorOn(graph.cursorOn);
+    m_engine->setLegendOn(graph.legendOn);
+    applyChannels();
+    syncButtons();
+}
+
+void DialogGraph::applyChannels()
+{
+    const auto& parameters = m_graph->parameters();
+    for (std::uint32_t i = 0; i < maxParameters; ++i) {
+        if (i >= parameters.size()) {
+            m_engine->setParameterVisible(i, false);
+            continue;
+        }
+        const ProfileParameter& parameter = parameters[i].parameter;
+        const Rgb color(parameter.color);
+        m_engine->setParameterColor(i, color.red, color.green, color.blue);
+        m_engine->setParameterVisible(i, parameters[i].active);
+        m_engine->setParameterLabels(i, zul::toLatin1(parameter.nme), zul::toLatin1(parameter.pun));
+        m_engine->setParameterShowSamples(i, parameter.showSamples);
+        m_engine->setParameterYMin(i, static_cast<float>(parameter.yMin));
+        m_engine->setParameterYMax(i, static_cast<float>(parameter.yMax));
+        m_engine->setParameterAutoScale(i, parameter.autoScale);
+    }
+}
+
+void DialogGraph::refreshTable()
+{
+    if (!hasRow(m_selectedRow)) {
+        m_selectedRow = noRow;
+    }
+    m_table->fill(m_graph->parameters(), m_selectedRow);
+}
+
+void DialogGraph::syncButtons()
+{
+    m_tools->setModes(m_engine->state().isAutomatic(), m_engine->state().isSplit());
+}
+
+bool DialogGraph::hasRow(int row) const
+{
+    return m_graph != nullptr && row >= 0 &&
+           static_cast<std::size_t>(row) < m_graph->parameters().size();
+}
+
+void DialogGraph::slotAddParameter()
+{
+    if (m_graph == nullptr) {
+        return;
+    }
+    if (m_graph->parameters().size() >= static_cast<std::size_t>(maxParameters)) {
+        MessageBoxes::ask(this, QMessageBox::Warning, QLatin1String(MessageBoxes::warningTitle),
+                          QStringLiteral("Maximum number of parameters reached !"),
+                          {QMessageBox::Ok});
+        return;
+    }
+    m_graph->parameters().emplace_back();
+    refreshTable();
+    applyChannels();
+    markEdited();
+}
+
+void DialogGraph::slotDeleteParameter()
+{
+    if (!hasRow(m_selectedRow)) {
+        return;
+    }
+    m_graph->parameters().erase(m_graph->parameters().begin() + m_selectedRow);
+    m_selectedRow = noRow;
+    refreshTable();
+    applyChannels();
+    markEdited();
+}
+
+void DialogGraph::slotSetupParameter()
+{
+    editParameter(m_selectedRow, EditorPlace::WindowCorner);
+}
+
+void DialogGraph::slotParameterClicked(int row, int)
+{
+    m_selectedRow = row;
+}
+
+void DialogGraph::slotParameterDoubleClicked(int row, int)
+{
+    m_selectedRow = row;
+    editParameter(row, EditorPlace::WindowCorner);
+}
+
+void DialogGraph::slotContextMenu(QPoint place)
+{
+    editParameter(m_table->rowAt(place.y()), EditorPlace::Anywhere);
+}
+
+void DialogGraph::editParameter(int row, EditorPlace place)
+{
+    if (!hasRow(row)) {
+        return;
+    }
+    const QPointer<DialogSelectParameter> editor = new DialogSelectParameter(
+        m_graph->parameters()[static_cast<std::size_t>(row)].parameter, this);
+    if (place == EditorPlace::WindowCorner) {
+        editor->move(mapToGlobal(QPoint(0, 0)));
+    }
+    editor->exec();
+    // Frames go on coming meanwhile: the window may go, and the dialog with it, or its object.
+    if (editor == nullptr) {
+        return;
+    }
+    const ProfileParameter edited = editor->parameter();
+    delete editor;
+    if (hasRow(row)) {
+        m_graph->parameters()[static_cast<std::size_t>(row)].parameter = edited;
+        refreshTable();
+        applyChannels();
+        markEdited();
+    }
+}
+
+void DialogGraph::slotActive(int row, bool checked)
+{
+    if (!hasRow(row)) {
+        return;
+    }
+    m_graph->parameters()[static_cast<std::size_t>(row)].active = checked;
+    m_engine->setParameterVisible(static_cast<std::uint32_t>(row), checked);
+    markEdited();
+    refreshTable();
+}
+
+void DialogGraph::slotInputOn(bool on)
+{
+    if (!m_updating && m_graph != nullptr) {
+        m_graph->settings().inputOn = on;
+        markEdited();
+    }
+}
+
+void DialogGraph::slotFilterSetup()
+{
+    if (m_graph != nullptr) {
+        m_filterDialog->setFilter(&m_graph->filter());
+        m_filterDialog->show();
+        m_filterDialog->raise();
+        markEdited();
+    }
+}
+
+void DialogGraph::slotFilterOn(bool on)
+{
+    if (!m_updating && m_graph != nullptr) {
+        m_graph->filter().setOn(on);
+        markEdited();
+    }
+}
+
+void DialogGraph::slotSetup()
+{
+    showGraphSetup();
+}
+
+// Nothing goes out of here; the slot lets the header be wired alike in all windows.
+void DialogGraph::slotOutputOn(bool) {}
+
+void DialogGraph::slotInputInterface(const QString& name)
+{
+    if (m_graph != nullptr) {
+        m_graph->settings().inputInterface = name;
+        markEdited();
+    }
+}
+
+void DialogGraph::slotCommandPress(int id)
+{
+    m_held = id;
+}
+
+void DialogGraph::slotCommandRelease(int id)
+{
+    constexpr double firstRange = GraphState::defaultSeconds;
+    switch (static_cast<GraphCommand>(id)) {
+    case GraphCommand::ZoomIn:
+    case GraphCommand::ZoomOut:
+        break;
+    case GraphCommand::ZoomOneToOne:
+        setRange(firstRange);
+        break;
+    case GraphCommand::ZoomMarker:
+        m_engine->zoomMarker();
+        break;
+    case GraphCommand::ClearAll:
+        m_engine->clearAll();
+        break;
+    case GraphCommand::AutoMode:
+        setAutoMode(m_tools->button(GraphCommand::AutoMode)->isChecked());
+        break;
+    case GraphCommand::SplitMode:
+        setSplitMode(true);
+        break;
+    case GraphCommand::SingleMode:
+        setSplitMode(false);
+        break;
+    case GraphCommand::Reset:
+        resetAll();
+        break;
+    case GraphCommand::Setup:
+        showGraphSetup();
+        break;
+    case GraphCommand::Snapshot:
+        saveSnapshot();
+        return; // the window may be gone
+    }
+    m_held = noButton;
+}
+
+void DialogGraph::setRange(double seconds)
+{
+    m_engine->setRange(static_cast<float>(seconds));
+    if (m_graph != nullptr) {
+        m_graph->graph().xRange = seconds;
+        markEdited();
+    }
+}
+
+void DialogGraph::setAutoMode(bool on)
+{
+    m_engine->setAutoMode(on ? 1 : 0);
+    if (m_graph != nullptr) {
+        m_graph->graph().autoMode = on ? 1 : 0;
+        markEdited();
+    }
+    syncButtons();
+}
+
+void DialogGraph::setSplitMode(bool on)
+{
+    m_engine->setSplitMode(on ? 1 : 0);
+    if (m_graph != nullptr) {
+        m_graph->graph().splitMode = on ? 1 : 0;
+        markEdited();
+    }
+    syncButtons();
+}
+
+void DialogGraph::resetAll()
+{
+    m_engine->clearAll();
+    setAutoMode(true);
+    setSplitMode(true);
+    setRange(GraphState::defaultSeconds);
+}
+
+void DialogGraph::slotManMode()
+{
+    if (m_graph != nullptr && m_graph->graph().autoMode != 0) {
+        m_graph->graph().autoMode = 0;
+        markEdited();
+    }
+    syncButtons();
+}
+
+void DialogGraph::slotTimeout()
+{
+    const auto heldIs = [this](GraphCommand command) {
+        return m_held == static_cast<int>(command);
+    };
+    if (heldIs(GraphCommand::ZoomIn) || heldIs(GraphCommand::ZoomOut)) {
+        const GraphState& state = m_engine->state();
+        setRange(zoomedRange(state.xMax - state.xMin, heldIs(GraphCommand::ZoomIn)
+                                                          ? ZoomDirection::In
+                                                          : ZoomDirection::Out));
+    }
+    if (m_held == noButton) {
+        syncButtons(); // keys and the marker's zoom change modes too
+    }
+}
+
+void DialogGraph::slotGraphSetup()
+{
+    if (m_graph != nullptr) {
+        applySettings();
+        markEdited();
+    }
+}
+
+void DialogGraph::showGraphSetup()
+{
+    if (m_graph != nullptr) {
+        m_setupDialog->setObject(m_graph);
+        m_setupDialog->show();
+        m_setupDialog->raise();
+    }
+}
+
+QPixmap DialogGraph::snapshot()
+{
+    QPixmap picture = grab();
+    if (m_plot != nullptr) {
+        // What OpenGL has drawn is not in a window's own pixels.
+        QPainter painter(&picture);
+        painter.drawImage(QRect(m_plot->mapTo(this, QPoint(0, 0)), m_plot->size()),
+                          m_plot->picture());
+    }
+    return picture;
+}
+
+void DialogGraph::saveSnapshot()
+{
+    m_held = noButton;
+    const QPixmap picture = snapshot();
+    // The main window lives longer than this one.
+    const QString name =
+        FileDialogs::saveFile(window(), QStringLiteral("Save Snapshot"),
+                              QStringLiteral("BMP File (*.bmp);;All Files (*.*)"),
+                              QStringLiteral("bmp"), QStringLiteral("./snapshot.bmp"));
+    if (!name.isEmpty()) {
+        picture.save(name);
+    }
+}
+
+void DialogGraph::markEdited()
+{
+    if (m_graph->project() != nullptr) {
+        m_graph->project()->markEdited();
+    }
+}
+
+} // namespace gui

@@ -1,0 +1,65 @@
+// The texts over the plot: those of the cursor, and the legend.
+
+#include "measure/GraphColumns.h"
+#include "measure/GraphPainter.h"
+#include "measure/GraphScales.h"
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+constexpr float gap = 5.0F; // between a text and what it stands at, pixels
+constexpr std::size_t maxNumber = 64;
+
+constexpr int timeDecimals = 1;
+constexpr int cursorDecimals = 2;
+constexpr int legendDecimals = 6;
+
+// Bounded: a text runs out of the picture long before.
+std::string number(double value, int decimals)
+{
+    std::array<char, maxNumber> text{};
+    std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
+    return text.data();
+}
+
+} // namespace
+
+void GraphPainter::paintCursorTexts(double x, double y)
+{
+    const auto left = static_cast<float>(x) + gap;
+    m_drawing.addText({1.0F, 1.0F, 1.0F}, {left, static_cast<float>(y) + gap},
+                      number(m_state.cursorX, timeDecimals) + '/' +
+                          number(m_state.cursorY, cursorDecimals));
+    for (const GraphChannel& channel : m_state.channels) {
+        if (!channel.visible) {
+            continue;
+        }
+        const std::optional<double> value = valueAt(channel, m_state.cursorX);
+        const GraphScale scale = valueScale(channel);
+        if (value && scale.isDrawable() && std::isfinite(*value)) {
+            m_drawing.addText(channel.color, {left, static_cast<float>(scale.toPixel(*value))},
+                              number(*value, cursorDecimals));
+        }
+    }
+}
+
+void GraphPainter::paintLegend()
+{
+    const auto height = static_cast<float>(m_metrics.height());
+    float pitch = height + gap;
+    if (m_state.isSplit() && m_state.visibleCount > 0) {
+        pitch = static_cast<float>(m_state.plotHeight / m_state.visibleCount);
+    }
+    float y = top() - height - gap;
+    for (const GraphChannel& channel : m_state.channels) {
+        if (channel.visible) {
+            m_drawing.addText(channel.color, {left() + gap, y},
+                              channel.name + "   " + number(channel.current, legendDecimals) +
+                                  " [" + channel.unit + ']');
+            y -= pitch;
+        }
+    }
+}
