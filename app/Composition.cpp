@@ -2,6 +2,8 @@
 
 #include "comm/CanInterface.h"
 #include "gui/controls/Look.h"
+#include "gui/measure/DialogDial.h"
+#include "gui/measure/DialogStatistic.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -78,6 +80,8 @@ void registerWindowMakers()
     registerMaker<gui::DialogTransmit, ObjectTransmit>(ObjectType::Transmit, "transmit");
     registerMaker<gui::DialogTrace, ObjectTrace>(ObjectType::Trace, "trace");
     registerMaker<gui::DialogReplay, ObjectReplay>(ObjectType::Replay, "replay");
+    registerMaker<gui::DialogDial, ObjectDial>(ObjectType::Dial, "dial");
+    registerMaker<gui::DialogStatistic, ObjectStatistic>(ObjectType::Statistic, "statistic");
 }
 
 } // namespace app

@@ -10,6 +10,13 @@ using HistogramBuckets = std::map<std::uint32_t, std::uint32_t>;
 /// How a histogram is drawn. The numbers are those of its selection.
 enum class HistogramMode : int { LineGraph = 0, BlockGraph = 1 };
 
+/// The mode that a number stands for; any other is the first.
+constexpr HistogramMode histogramMode(int number)
+{
+    return number == static_cast<int>(HistogramMode::BlockGraph) ? HistogramMode::BlockGraph
+                                                                 : HistogramMode::LineGraph;
+}
+
 /// A number without its fraction as 32 bits without a sign: negative ones, and what is no number,
 /// give 0, and what is too large the largest.
 std::uint32_t truncatedToUnsigned(double number);
