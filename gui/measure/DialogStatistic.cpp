@@ -137,10 +137,10 @@ void DialogStatistic::showMeasurement()
         m_tree->showTable();
         break;
     case StatisticView::Spreading:
-        m_spread->update();
+        m_spread->showChanges();
         break;
     case StatisticView::BusLoad:
-        m_busLoad->update();
+        m_busLoad->showChanges();
         break;
     }
 }
@@ -257,7 +257,7 @@ void DialogStatistic::slotId(int id)
         m_statisticObject->settings().selectedId = static_cast<std::uint32_t>(id);
         markEdited();
         m_statistic.spread().clear();
-        m_spread->update();
+        m_spread->showChanges();
     }
 }
 
@@ -281,8 +281,8 @@ void DialogStatistic::slotClear()
     m_tree->clearRows();
     m_currentItem = nullptr;
     m_statistic.clear();
-    m_spread->update();
-    m_busLoad->update();
+    m_spread->showChanges();
+    m_busLoad->showChanges();
 }
 
 void DialogStatistic::showSpreading()

@@ -95,8 +95,16 @@ void QwtBusLoad::slotTotalTime(int measureTime)
     update();
 }
 
+void QwtBusLoad::showChanges()
+{
+    if (m_histogram.count() != m_shownCount) {
+        update();
+    }
+}
+
 void QwtBusLoad::paintEvent(QPaintEvent*)
 {
+    m_shownCount = m_histogram.count();
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     drawItems(painter, busLoadPlot(m_histogram, m_graphMode, {width(), height()}));

@@ -20,6 +20,8 @@ public:
     explicit QwtBusLoad(BusLoadHistogram& histogram, QWidget* parent = nullptr);
 
     HistogramMode graphMode() const { return m_graphMode; }
+    /// Asks for a repaint if the histogram has other messages than the picture.
+    void showChanges();
 
 public slots:
     /// The number of a `HistogramMode`. The measurement stays.
@@ -37,6 +39,7 @@ private:
 
     BusLoadHistogram& m_histogram;
     HistogramMode m_graphMode = HistogramMode::LineGraph;
+    std::uint32_t m_shownCount = 0; // messages in the picture
 };
 
 } // namespace gui

@@ -3,6 +3,7 @@
 #include "gui/controls/QwtComboBox.h"
 #include "gui/measure/HistogramModes.h"
 #include "gui/measure/PlotPainter.h"
+#include "measure/SpreadHistogram.h"
 #include "measure/SpreadPlot.h"
 
 #include <QPainter>
@@ -30,8 +31,16 @@ void QwtSpread::slotDisplayType(int mode)
     update();
 }
 
+void QwtSpread::showChanges()
+{
+    if (m_histogram.count() != m_shownCount) {
+        update();
+    }
+}
+
 void QwtSpread::paintEvent(QPaintEvent*)
 {
+    m_shownCount = m_histogram.count();
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     drawItems(painter, spreadPlot(m_histogram, m_graphMode, {width(), height()}));

@@ -373,6 +373,28 @@ TEST_F(StatisticWindow, FramesOfOtherIdentifiersOnlyCountInTheSpreading)
     EXPECT_NE(spread->grab().toImage(), before);
 }
 
+TEST_F(StatisticWindow, HistogramsAreRepaintedOnlyWhenTheyHaveOtherMessages)
+{
+    m_object->settings().selectedId = 7;
+    for (const int view : {2, 3}) {
+        openAs(view);
+        auto* page = m_dialog->findChild<QStackedWidget*>()->currentWidget();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_dialog));
+        feed(0.05, batchOf({{7, 50.0}, {7, 50.1}}));
+        QApplication::processEvents();
+        const PaintCounter painted(*page);
+        feed(0.05, batchOf({}));
+        QApplication::processEvents();
+        EXPECT_EQ(painted.count, 0) << view;
+        feed(0.05, batchOf({{7, 50.2}}));
+        QApplication::processEvents();
+        EXPECT_EQ(painted.count, 1) << view;
+        click("clear");
+        QApplication::processEvents();
+        EXPECT_EQ(painted.count, 2) << view;
+    }
+}
+
 TEST_F(StatisticWindow, OtherIdentifierStartsTheSpreadingAnew)
 {
     m_object->settings().selectedId = 7;
@@ -500,8 +522,8 @@ TEST_F(StatisticWindow, CellsAreRepaintedOnlyWhenTheyShowSomethingElse)
     }
     ASSERT_TRUE(QTest::qWaitForWindowExposed(m_dialog));
     QApplication::processEvents();
-    PaintCounter first(*cell<gui::QwtBarItem>(0));
-    PaintCounter viewport(*m_tree->viewport());
+    const PaintCounter first(*cell<gui::QwtBarItem>(0));
+    const PaintCounter viewport(*m_tree->viewport());
     feed(0.05, batchOf({}));
     QApplication::processEvents();
     EXPECT_EQ(first.count, 0);
