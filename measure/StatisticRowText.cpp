@@ -10,8 +10,11 @@ constexpr double msPerSecond = 1000.0;
 
 int placeOf(double seconds, double scale, int width)
 {
+    if (!(scale > 0.0)) { // also what is no number
+        return 0;
+    }
     const double place = seconds / scale * width;
-    if (!(scale > 0.0) || !(place > 0.0)) { // also what is no number
+    if (!(place > 0.0)) {
         return 0;
     }
     return static_cast<int>(std::min(place, static_cast<double>(width)));
