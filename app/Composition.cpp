@@ -2,7 +2,9 @@
 
 #include "comm/CanInterface.h"
 #include "gui/controls/Look.h"
+#include "gui/measure/DialogDial.h"
 #include "gui/measure/DialogGraph.h"
+#include "gui/measure/DialogStatistic.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -80,6 +82,8 @@ void registerWindowMakers()
     registerMaker<gui::DialogTrace, ObjectTrace>(ObjectType::Trace, "trace");
     registerMaker<gui::DialogReplay, ObjectReplay>(ObjectType::Replay, "replay");
     registerMaker<gui::DialogGraph, ObjectGraph>(ObjectType::Graph, "oscilloscope");
+    registerMaker<gui::DialogDial, ObjectDial>(ObjectType::Dial, "dial");
+    registerMaker<gui::DialogStatistic, ObjectStatistic>(ObjectType::Statistic, "statistic");
 }
 
 } // namespace app

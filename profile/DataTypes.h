@@ -133,6 +133,10 @@ inline constexpr std::array<const char*, 18> rawSelections{
     "Char 6",   "Char 7",   "Short 0..1", "Short 2..3", "Short 4..5", "Short 6..7",
     "Int 0..3", "Int 4..7", "Float 0..3", "Float 4..7", "Long 0..7",  "Double 0..7"};
 
+/// The raw selections in the order in which selection boxes offer them: the widest first.
+inline constexpr std::array<std::uint32_t, rawSelections.size()> rawSelectionOrder{
+    17, 14, 15, 16, 12, 13, 8, 9, 10, 11, 0, 1, 2, 3, 4, 5, 6, 7};
+
 /// A byte order and its name in selections; the number is that of `ProfileParameter::endian`.
 struct ByteOrderText
 {

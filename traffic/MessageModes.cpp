@@ -2,11 +2,6 @@
 
 #include <algorithm>
 
-const char* messageModePrefix(std::uint32_t mode)
-{
-    return mode < messageModes.size() ? messageModes[mode].prefix : "";
-}
-
 int dlcCode(int byteCount)
 {
     const auto found = std::find(byteCounts.begin(), byteCounts.end(), byteCount);

@@ -32,19 +32,42 @@ void QwtBarItem::setBackground(const QColor& background)
 void QwtBarItem::setValue(double rate, std::uint32_t maximum)
 {
     const double now = zul::wallClock();
-    zul::lowPass(rate, gain, now - m_lastTime, m_rate);
+    double smoothed = m_rate;
+    zul::lowPass(rate, gain, now - m_lastTime, smoothed);
     m_lastTime = now;
+    showValues(smoothed, maximum);
+}
+
+void QwtBarItem::setRate(double rate, std::uint32_t maximum)
+{
+    m_lastTime = zul::wallClock();
+    showValues(rate, maximum);
+}
+
+void QwtBarItem::showValues(double rate, std::uint32_t maximum)
+{
+    const Shown before = shown();
+    m_rate = rate;
     m_maximum = std::max(maximum, std::uint32_t{1});
-    update();
+    const Shown after = shown();
+    if (after.barWidth != before.barWidth || after.text != before.text) {
+        update();
+    }
+}
+
+QwtBarItem::Shown QwtBarItem::shown() const
+{
+    const double share = std::clamp(m_rate / static_cast<double>(m_maximum), 0.0, 1.0);
+    return {QString::asprintf("%.0f Msg/s", m_rate), static_cast<int>(width() * share)};
 }
 
 void QwtBarItem::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), m_background);
-    const double share = std::clamp(m_rate / static_cast<double>(m_maximum), 0.0, 1.0);
-    painter.fillRect(0, 0, static_cast<int>(width() * share), height(), barColor);
-    painter.drawText(rect(), Qt::AlignCenter, QString::asprintf("%.0f Msg/s", m_rate));
+    const Shown values = shown();
+    painter.fillRect(0, 0, values.barWidth, height(), barColor);
+    painter.drawText(rect(), Qt::AlignCenter, values.text);
 }
 
 } // namespace gui

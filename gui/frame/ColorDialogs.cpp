@@ -1,33 +1,40 @@
 #include "gui/frame/ColorDialogs.h"
 
 #include <QColorDialog>
+#include <QPointer>
 
 #include <optional>
+#include <utility>
 
 namespace gui {
 
 namespace {
 
-std::optional<QString>& nextColor()
+std::optional<QColor>& nextColor()
 {
-    static std::optional<QString> color;
+    static std::optional<QColor> color;
     return color;
 }
 
 } // namespace
 
-QString ColorDialogs::choose(QWidget* parent, const QString& color)
+QColor ColorDialogs::choose(QWidget* parent, const QColor& initial)
 {
-    if (nextColor()) {
-        QString answer = *nextColor();
-        nextColor().reset();
-        return answer;
+    if (const auto answer = std::exchange(nextColor(), std::nullopt)) {
+        return *answer;
     }
-    const QColor chosen = QColorDialog::getColor(QColor(color), parent);
-    return chosen.isValid() ? chosen.name() : QString();
+    // On the heap: the parent may go, with all its children, while the chooser is open.
+    const QPointer<QColorDialog> dialog = new QColorDialog(initial, parent);
+    dialog->exec();
+    QColor color;
+    if (dialog != nullptr) {
+        color = dialog->selectedColor(); // invalid unless accepted
+        delete dialog;
+    }
+    return color;
 }
 
-void ColorDialogs::setNextColor(const QString& color)
+void ColorDialogs::setNextColor(const QColor& color)
 {
     nextColor() = color;
 }

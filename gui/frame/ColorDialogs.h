@@ -1,21 +1,20 @@
 #pragma once
 
-#include <QString>
+#include <QColor>
 
 class QWidget;
 
 namespace gui {
 
-/// The program's colour chooser, all through here, so that tests can answer it.
+/// The program's colour chooser, always through here, so that tests can answer it.
 class ColorDialogs
 {
 public:
-    /// Starts with `color`; gives the name of the chosen one, or an empty string if the user
-    /// cancelled.
-    static QString choose(QWidget* parent, const QString& color);
+    /// Lets the user choose, starting at `initial`; an invalid colour if the user cancelled.
+    static QColor choose(QWidget* parent, const QColor& initial);
 
-    /// The next chooser shows nothing and gives this; an empty one cancels. For tests.
-    static void setNextColor(const QString& color);
+    /// The next chooser shows nothing and returns this; for tests.
+    static void setNextColor(const QColor& color);
 };
 
 } // namespace gui

@@ -62,13 +62,23 @@ void DialogBase::forceClose()
 void DialogBase::setName(const QString& name)
 {
     m_name = name;
-    setWindowTitle(m_name);
+    refreshTitle();
 }
 
 void DialogBase::setTypeTitle(const QString& typeTitle)
 {
     m_typeTitle = typeTitle;
-    setWindowTitle(m_name);
+    refreshTitle();
+}
+
+QString DialogBase::titleText() const
+{
+    return m_name;
+}
+
+void DialogBase::refreshTitle()
+{
+    setWindowTitle(titleText());
 }
 
 void DialogBase::guiRequest(std::unique_ptr<Message> request)

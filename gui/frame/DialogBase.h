@@ -38,7 +38,7 @@ public:
     /// The parent given to the constructor.
     QWidget* mainWindow() const { return m_mainWindow; }
     const QString& name() const { return m_name; }
-    /// Sets the name, which is also the window's title.
+    /// Sets the name, which is also the window's title unless the window has another.
     void setName(const QString& name);
     const QString& typeTitle() const { return m_typeTitle; }
     void setTypeTitle(const QString& typeTitle);
@@ -54,6 +54,10 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    /// What the window's title shows: the name here.
+    virtual QString titleText() const;
+    /// Shows `titleText` as the title.
+    void refreshTitle();
 
 private:
     int objectId() const;

@@ -42,11 +42,11 @@ void ColorSelect::setColor(const QString& color)
 void ColorSelect::slotSelect()
 {
     const QPointer<ColorSelect> self(this);
-    const QString chosen = ColorDialogs::choose(this, m_color);
+    const QColor chosen = ColorDialogs::choose(this, QColor(m_color));
     // Frames go on coming meanwhile, and a window may go.
-    if (self != nullptr && !chosen.isEmpty()) {
-        setColor(chosen);
-        emit signalColor(chosen);
+    if (self != nullptr && chosen.isValid()) {
+        setColor(chosen.name());
+        emit signalColor(m_color);
     }
 }
 

@@ -3,7 +3,9 @@
 #include "comm/CanInterface.h"
 #include "gui/controls/WidgetStatus.h"
 #include "gui/frame/DialogBase.h"
+#include "gui/measure/DialogDial.h"
 #include "gui/measure/DialogGraph.h"
+#include "gui/measure/DialogStatistic.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -92,11 +94,21 @@ TEST_F(Composition, GraphObjectMakesAnOscilloscope)
     expectWindow<gui::DialogGraph>(ObjectType::Graph, "Oscilloscope");
 }
 
+TEST_F(Composition, DialObjectMakesADataVisualizationWindow)
+{
+    expectWindow<gui::DialogDial>(ObjectType::Dial, "Data Visualization");
+}
+
+TEST_F(Composition, StatisticObjectMakesAStatisticWindow)
+{
+    expectWindow<gui::DialogStatistic>(ObjectType::Statistic, "CAN Statistic");
+}
+
 TEST_F(Composition, EveryTypeHasAnIconAndThoseWithoutAWindowMakeNone)
 {
-    const std::set<ObjectType> withWindow{ObjectType::CanInterface, ObjectType::Receive,
-                                          ObjectType::Trace,        ObjectType::Replay,
-                                          ObjectType::Transmit,     ObjectType::Graph};
+    const std::set<ObjectType> withWindow{
+        ObjectType::CanInterface, ObjectType::Receive, ObjectType::Trace, ObjectType::Replay,
+        ObjectType::Transmit,     ObjectType::Graph,   ObjectType::Dial,  ObjectType::Statistic};
     EXPECT_EQ(m_project.types().size(), 10U);
     for (const auto& [type, info] : m_project.types()) {
         EXPECT_FALSE(info.icon.isNull()) << static_cast<int>(type);

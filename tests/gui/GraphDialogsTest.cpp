@@ -46,7 +46,7 @@ std::vector<std::string> labelsOf(const QWidget& dialog)
 
 void chooseColor(const ColorSelect& select, const char* color)
 {
-    ColorDialogs::setNextColor(text(color));
+    ColorDialogs::setNextColor(*color != '\0' ? QColor(text(color)) : QColor());
     QTest::mouseClick(select.findChild<QPushButton*>(text("select")), Qt::LeftButton);
 }
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QEvent>
+#include <QWidget>
+
+namespace zul::test {
+
+/// Counts the paintings of a widget.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
+} // namespace zul::test
