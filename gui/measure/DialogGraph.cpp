@@ -211,14 +211,15 @@ void DialogGraph::editParameter(int row, EditorPlace place)
     if (!hasRow(row)) {
         return;
     }
-    const QPointer<DialogSelectParameter> editor = new DialogSelectParameter(
+    auto* editor = new DialogSelectParameter(
         m_graph->parameters()[static_cast<std::size_t>(row)].parameter, this);
+    const QPointer<DialogSelectParameter> open(editor);
     if (place == EditorPlace::WindowCorner) {
         editor->move(mapToGlobal(QPoint(0, 0)));
     }
     editor->exec();
     // Frames go on coming meanwhile: the window may go, and the dialog with it, or its object.
-    if (editor == nullptr) {
+    if (open.isNull()) {
         return;
     }
     const ProfileParameter edited = editor->parameter();
