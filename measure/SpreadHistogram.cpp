@@ -43,7 +43,7 @@ void SpreadHistogram::widen(double period, std::uint32_t key)
         m_highest = period;
         return;
     }
-    const double room = static_cast<double>(margin);
+    const auto room = static_cast<double>(margin);
     m_lowest = std::min(m_lowest, period - room);
     m_highest = std::max(m_highest, period + room);
     m_minKey = std::min(m_minKey, key);

@@ -45,7 +45,7 @@ public:
     void clear();
 
     int rowCount() const { return static_cast<int>(m_entries.size()); }
-    const StatisticEntry& entry(int row) const { return m_entries[indexOf(row)].entry; }
+    const StatisticEntry& entry(int row) const { return m_entries[static_cast<std::size_t>(row)]; }
     /// Messages per second.
     int rate(int row) const { return static_cast<int>(entry(row).times.size()); }
     /// The highest rate of any entry so far; 1 at the start and 0 after `clear`.
@@ -54,22 +54,28 @@ public:
     double periodScale() const { return m_periodScale; }
 
 private:
-    struct Counted
+    /// What is looked at in every batch, apart from what is not: thousands of them fit into a
+    /// cache.
+    struct Ageing
     {
-        StatisticEntry entry{};
-        double reference = 0.0;  // time from which the next period is measured
-        std::uint32_t batch = 0; // in which `reference` was set
-        bool isLive = false;     // it may still age
+        double lastSeen = 0.0;
+        double oldest = 0.0;         // of the entry's times
+        std::uint32_t timeCount = 0; // of the entry's times
+        std::uint32_t batch = 0;     // of the last frame
+        bool isActive = false;
+        bool isLive = false; // it may still age
     };
 
-    static std::size_t indexOf(int row) { return static_cast<std::size_t>(row); }
-    Counted& findOrAdd(std::uint32_t id);
+    std::size_t findOrAdd(std::uint32_t id);
+    /// The time from which the next period is measured, and to which the last second is counted.
+    double reference(const Ageing& ageing) const;
     void measurePeriod(StatisticEntry& entry, double period);
-    void keepTime(StatisticEntry& entry, double time);
-    void dropOldest(StatisticEntry& entry);
-    bool age(Counted& counted, double clock);
+    void keepTime(std::size_t index, double time);
+    void dropOldest(std::size_t index);
+    bool age(std::size_t index, double clock);
 
-    std::vector<Counted> m_entries;
+    std::vector<StatisticEntry> m_entries;
+    std::vector<Ageing> m_ageing;                           // by entry
     std::unordered_map<std::uint32_t, std::size_t> m_index; // by identifier
     std::vector<std::size_t> m_live;                        // entries that may still age
     std::size_t m_timeTotal = 0;                            // of all entries

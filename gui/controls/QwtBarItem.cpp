@@ -19,6 +19,7 @@ constexpr QColor barColor(100, 200, 100);
 QwtBarItem::QwtBarItem(int index, QWidget* parent)
     : QWidget(parent), m_index(index), m_lastTime(zul::wallClock())
 {
+    setAttribute(Qt::WA_OpaquePaintEvent); // it fills its rectangle: nothing is drawn below it
 }
 
 void QwtBarItem::setBackground(const QColor& background)
@@ -32,10 +33,10 @@ void QwtBarItem::setBackground(const QColor& background)
 void QwtBarItem::setValue(double rate, std::uint32_t maximum)
 {
     const double now = zul::wallClock();
-    double smoothed = m_rate;
-    zul::lowPass(rate, gain, now - m_lastTime, smoothed);
+    double state = m_rate;
+    zul::lowPass(rate, gain, now - m_lastTime, state);
     m_lastTime = now;
-    showValues(smoothed, maximum);
+    showValues(state, maximum);
 }
 
 void QwtBarItem::setRate(double rate, std::uint32_t maximum)

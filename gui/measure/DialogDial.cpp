@@ -319,7 +319,7 @@ void DialogDial::showFrame()
         m_lights->showFrame(*m_feed.last());
         return;
     }
-    const double value = static_cast<double>(
+    const auto value = static_cast<double>(
         zul::rawValue(*m_feed.last(), static_cast<std::uint32_t>(settings.dataType),
                       static_cast<std::uint32_t>(settings.endian)));
     if (form == DialForm::Needle) {

@@ -16,7 +16,10 @@ constexpr QColor borderColor(200, 200, 200);
 
 } // namespace
 
-QwtPeriodItem::QwtPeriodItem(QWidget* parent) : QWidget(parent), m_lastWall(zul::wallClock()) {}
+QwtPeriodItem::QwtPeriodItem(QWidget* parent) : QWidget(parent), m_lastWall(zul::wallClock())
+{
+    setAttribute(Qt::WA_OpaquePaintEvent); // it fills its rectangle: nothing is drawn below it
+}
 
 void QwtPeriodItem::setBackground(const QColor& background)
 {
