@@ -80,11 +80,16 @@ void DesktopTest::TearDown()
     SettingsStore::instance().reset();
 }
 
-void DesktopTest::start()
+void DesktopTest::make()
 {
     m_window = std::make_unique<gui::DialogMain>(types());
     m_window->setEndProcess([this] { ++m_ended; });
     gui::Kernel::instance().setMainWindow(m_window.get());
+}
+
+void DesktopTest::start()
+{
+    make();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
     QApplication::setActiveWindow(m_window.get());
 }

@@ -41,6 +41,8 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
+    /// Makes the main window, and leaves no time for its first tick.
+    void make();
     /// Makes and shows the main window, as the start of the program does.
     void start();
     /// Ends it, and starts again over the same home with settings read from its file.

@@ -75,7 +75,7 @@ private:
 TEST_F(ProjectFlows, FirstTickOpensTheWindowsThatAreMarkedOpen)
 {
     m_home.write(QStringLiteral("default.zul"), oneReceive);
-    start();
+    make();
     EXPECT_TRUE(windowTitles().isEmpty());
     tick();
     EXPECT_EQ(windowTitles(), texts({"Nose"}));
