@@ -14,10 +14,6 @@ using Numbers = std::vector<std::uint32_t>;
 constexpr std::uint32_t topBit = 7;
 constexpr PayloadPosition wholeFrame{7, 0, 0, 7};
 
-// The widest first.
-constexpr std::array<std::uint32_t, 18> rawOrder{17, 14, 15, 16, 12, 13, 8, 9, 10,
-                                                 11, 0,  1,  2,  3,  4,  5, 6, 7};
-
 // By the index of `zul::rawSelections`.
 constexpr std::array<PayloadPosition, 18> rawPositions{{{0, 0, 0, 7},
                                                         {1, 0, 1, 7},
@@ -38,7 +34,6 @@ constexpr std::array<PayloadPosition, 18> rawPositions{{{0, 0, 0, 7},
                                                         {7, 0, 0, 7},
                                                         {7, 0, 0, 7}}};
 static_assert(rawPositions.size() == zul::rawSelections.size());
-static_assert(rawOrder.size() == zul::rawSelections.size());
 
 Numbers allNumbers()
 {
@@ -135,7 +130,7 @@ std::vector<DataTypeChoice> dataTypeChoices(ParameterKind kind)
         }
         break;
     case ParameterKind::Raw:
-        for (const std::uint32_t code : rawOrder) {
+        for (const std::uint32_t code : zul::rawSelectionOrder) {
             choices.push_back({zul::rawSelections[code], code});
         }
         break;
