@@ -62,9 +62,14 @@ double GraphEngine::pixelTime() const
 void GraphEngine::rebuild()
 {
     for (GraphChannel& channel : m_state.channels) {
-        if (channel.visible) {
-            rebuildColumns(channel, m_state.xMin, m_state.xMax, pixelTime());
-        }
+        rebuild(channel);
+    }
+}
+
+void GraphEngine::rebuild(GraphChannel& channel) const
+{
+    if (channel.visible) {
+        rebuildColumns(channel, m_state.xMin, m_state.xMax, pixelTime());
     }
 }
 
@@ -251,7 +256,7 @@ void GraphEngine::setParameterYMax(std::uint32_t channel, float yMax)
 {
     if (GraphChannel* target = find(channel)) {
         target->userYMax = static_cast<double>(yMax);
-        rebuild();
+        rebuild(*target); // the others' range of time is what it was
         requestRepaint();
     }
 }

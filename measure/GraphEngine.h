@@ -95,6 +95,7 @@ private:
     double pixelTime() const;
     double timeAt(int x) const;
     void rebuild();
+    void rebuild(GraphChannel& channel) const;
     void prepareChannels();
     void prepareStrips();
     std::uint32_t channelAt(double y) const;

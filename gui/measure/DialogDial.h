@@ -8,7 +8,6 @@
 
 class ObjectDial;
 class QCheckBox;
-class QGridLayout;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
@@ -69,8 +68,6 @@ private:
     void buildSelections();
     void buildPages();
     QWidget* buildPanel();
-    void buildTexts(QGridLayout& grid);
-    void buildNumbers(QGridLayout& grid);
     void connectHeader();
     void connectProperties();
     bool canEdit() const { return m_dial != nullptr && !m_updating; }

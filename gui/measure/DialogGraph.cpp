@@ -388,6 +388,7 @@ void DialogGraph::slotTimeout()
     if (m_held == noButton) {
         syncButtons(); // keys and the marker's zoom change modes too
     }
+    m_header->setInputCount(m_feed.frameCount()); // the lamp goes out only in such a call
 }
 
 void DialogGraph::slotGraphSetup()

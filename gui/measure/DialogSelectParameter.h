@@ -55,7 +55,6 @@ private:
     void buildLook(QFormLayout& form);
     PositionRow buildPosition(QFormLayout& form, const char* label, const char* name);
     void connectControls();
-    void connectTexts();
 
     void refresh();
     void refreshDataTypes();

@@ -194,6 +194,7 @@ void DialogStatistic::clearForView()
     m_tree->clearRows();
     m_currentItem = nullptr;
     m_statistic.clearForView();
+    m_spread->showChanges();
 }
 
 void DialogStatistic::contextMenuEvent(QContextMenuEvent* event)

@@ -5,7 +5,6 @@
 #include <QWidget>
 
 class BusLoadHistogram;
-class QGridLayout;
 
 namespace gui {
 
@@ -16,7 +15,7 @@ class QwtBusLoad : public QWidget
 
 public:
     /// `histogram` outlives the widget, which sets its resolution and its measure time, draws it,
-    /// and is told of new messages by `update`.
+    /// and is told of new messages by `showChanges`.
     explicit QwtBusLoad(BusLoadHistogram& histogram, QWidget* parent = nullptr);
 
     HistogramMode graphMode() const { return m_graphMode; }

@@ -6,10 +6,7 @@
 
 namespace gui {
 
-StatisticItem::StatisticItem(StatisticTree& tree, int row)
-    : QTreeWidgetItem(&tree), m_tree(tree), m_row(row)
-{
-}
+StatisticItem::StatisticItem(StatisticTree& tree, int row) : m_tree(tree), m_row(row) {}
 
 StatisticItem::~StatisticItem() = default;
 

@@ -13,7 +13,7 @@ class StatisticTree;
 class StatisticItem : public QTreeWidgetItem
 {
 public:
-    /// Neither the tree, which it is added to, nor its table goes before the item.
+    /// Neither the tree, to which it is to be added, nor its table goes before the item.
     StatisticItem(StatisticTree& tree, int row);
     ~StatisticItem() override;
 

@@ -78,9 +78,18 @@ void StatisticTree::addMissingRows()
 {
     const int known = topLevelItemCount();
     m_firstNewRow = known;
+    if (known == m_table.rowCount()) {
+        return;
+    }
+    // Before the items, and these all at once: the tree may lay itself out as they come in, which
+    // shows those that are in view.
+    m_shown.resize(static_cast<std::size_t>(m_table.rowCount()));
+    QList<QTreeWidgetItem*> items;
     for (int row = known; row < m_table.rowCount(); ++row) {
-        new StatisticItem(*this, row); // which adds itself
-        m_shown.emplace_back();
+        items.append(new StatisticItem(*this, row));
+    }
+    addTopLevelItems(items);
+    for (int row = known; row < m_table.rowCount(); ++row) {
         widenFor(row);
     }
 }

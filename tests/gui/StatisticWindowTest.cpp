@@ -288,6 +288,20 @@ TEST_F(StatisticWindow, RateOfASilentIdentifierFallsToZero)
     EXPECT_EQ(bar->maximum(), 40U) << "the highest rate stays the scale";
 }
 
+TEST_F(StatisticWindow, IdentifiersOfManyBatchesFillTheWindowAndMore)
+{
+    m_dialog->show();
+    QApplication::processEvents();
+    for (std::uint32_t id = 0; id < 80; id += 2) {
+        const double time = 50.0 + id * 0.05;
+        feed(0.05, batchOf({{id, time}, {id + 1, time}}));
+        QApplication::processEvents();
+    }
+    EXPECT_EQ(m_tree->topLevelItemCount(), 80);
+    EXPECT_EQ(m_tree->topLevelItem(79)->data(0, Qt::UserRole).toUInt(), 79U);
+    EXPECT_NE(m_tree->itemWidget(m_tree->topLevelItem(0), 2), nullptr);
+}
+
 TEST_F(StatisticWindow, ClearEmptiesAll)
 {
     feed(0.05, batchOf({{7, 50.0}, {7, 50.1}}));
