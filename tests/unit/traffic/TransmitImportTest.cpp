@@ -80,7 +80,7 @@ TEST_F(TransmitImport, UnreadableValuesAreZero)
     EXPECT_EQ(line.actual, 0.0F);
     EXPECT_EQ(line.data[0], 0);
     EXPECT_EQ(line.data[1], 0);
-    EXPECT_EQ(line.data[2], 0); // the low byte of 0x100
+    EXPECT_EQ(line.data[2], 0);    // the low byte of 0x100
     EXPECT_EQ(line.data[3], 0xFF); // that of -1
     EXPECT_EQ(line.data[4], 0x12);
 }
