@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <string_view>
 
 namespace {
 
@@ -55,8 +56,8 @@ char* writeLine(Line& line, const zul::MessageCan& frame, int offset, int count,
     *end++ = ' ';
     *end++ = offset < twoDigits ? ' ' : static_cast<char>('0' + offset / 10);
     *end++ = static_cast<char>('0' + offset % 10);
-    std::memcpy(end, "-> ", 3);
-    end += 3;
+    constexpr std::string_view arrow = "-> ";
+    end = std::copy(arrow.begin(), arrow.end(), end);
     const zul::MessageData& bytes = frame.msg();
     for (int i = 0; i < count; ++i) {
         std::memcpy(end, cells[bytes[offset + i]].data(), cellSize);

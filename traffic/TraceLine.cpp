@@ -156,7 +156,8 @@ void escapeMarkup(std::string& text, std::size_t start)
             escaped += letter;
         }
     }
-    text.replace(start, std::string::npos, escaped);
+    text.resize(start);
+    text += escaped;
 }
 
 void appendLine(std::string& text, const MessageCan& frame, std::uint32_t number, std::int32_t mode,
