@@ -4,6 +4,7 @@
 #include "gui/frame/GuiRequests.h"
 #include "gui/frame/MessageBoxes.h"
 #include "project/Object.h"
+#include "project/Project.h"
 
 #include <QCloseEvent>
 
@@ -84,6 +85,13 @@ void DialogBase::refreshTitle()
 void DialogBase::guiRequest(std::unique_ptr<Message> request)
 {
     GuiRequests::send(std::move(request));
+}
+
+void DialogBase::markEdited()
+{
+    if (m_object != nullptr && m_object->project() != nullptr) {
+        m_object->project()->markEdited();
+    }
 }
 
 void DialogBase::closeEvent(QCloseEvent* event)

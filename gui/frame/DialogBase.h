@@ -53,6 +53,8 @@ signals:
     void signalDeleteObject(int objectId);
 
 protected:
+    /// The project has something to save; nothing without an object of a project.
+    void markEdited();
     void closeEvent(QCloseEvent* event) override;
     /// What the window's title shows: the name here.
     virtual QString titleText() const;

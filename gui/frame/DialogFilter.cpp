@@ -118,6 +118,19 @@ void DialogFilter::setFilter(Filter* filter)
     refresh();
 }
 
+void DialogFilter::edit(Filter& filter)
+{
+    setFilter(&filter);
+    show();
+    raise();
+}
+
+void DialogFilter::letGo()
+{
+    setFilter(nullptr);
+    hide();
+}
+
 void DialogFilter::refresh()
 {
     if (m_filter == nullptr) {

@@ -13,8 +13,8 @@ class QwtIdSelect;
 
 /// Edits a window's filter. What is changed counts at once, for the frames that follow.
 ///
-/// The window owns the dialog, calls `setFilter` and `show` when its filter setup is asked for, and
-/// takes the filter away with `setFilter(nullptr)` when its object goes.
+/// The window owns the dialog, calls `edit` when its filter setup is asked for, and `letGo` when
+/// its object goes.
 class DialogFilter : public QDialog
 {
     Q_OBJECT
@@ -24,6 +24,10 @@ public:
 
     /// Shows the filter, which belongs to the caller; null for none, and nothing is edited then.
     void setFilter(Filter* filter);
+    /// Comes to the front with the filter, which belongs to the caller.
+    void edit(Filter& filter);
+    /// Forgets the filter and hides.
+    void letGo();
 
 private slots:
     void slotLimit(bool on);

@@ -20,7 +20,6 @@
 #include "profile/ProfileNumbers.h"
 #include "profile/ValueCodec.h"
 #include "project/ObjectDial.h"
-#include "project/Project.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -192,8 +191,7 @@ void DialogDial::setObject(Object* object)
 {
     DialogBase::setObject(object);
     m_dial = dynamic_cast<ObjectDial*>(object);
-    m_filterDialog->setFilter(nullptr); // the filter was the former object's
-    m_filterDialog->hide();
+    m_filterDialog->letGo(); // the filter was the former object's
 }
 
 void DialogDial::guiMessage(Message* message)
@@ -336,13 +334,6 @@ void DialogDial::propertyChanged()
     markEdited();
 }
 
-void DialogDial::markEdited()
-{
-    if (m_dial->project() != nullptr) {
-        m_dial->project()->markEdited();
-    }
-}
-
 void DialogDial::slotInputOn(bool on)
 {
     if (canEdit()) {
@@ -354,9 +345,7 @@ void DialogDial::slotInputOn(bool on)
 void DialogDial::slotFilterSetup()
 {
     if (canEdit()) {
-        m_filterDialog->setFilter(&m_dial->filter());
-        m_filterDialog->show();
-        m_filterDialog->raise();
+        m_filterDialog->edit(m_dial->filter());
         markEdited();
     }
 }

@@ -81,7 +81,6 @@ private:
     void showFrame();
     /// What every change of a property ends with.
     void propertyChanged();
-    void markEdited();
 
     ObjectDial* m_dial;
     DialFeed m_feed;

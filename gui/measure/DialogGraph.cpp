@@ -13,7 +13,6 @@
 #include "gui/measure/WidgetGraph.h"
 #include "measure/ZoomRange.h"
 #include "project/ObjectGraph.h"
-#include "project/Project.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -63,8 +62,7 @@ void DialogGraph::setObject(Object* object)
 {
     DialogBase::setObject(object);
     m_graph = dynamic_cast<ObjectGraph*>(object);
-    m_filterDialog->setFilter(nullptr); // the filter was the former object's
-    m_filterDialog->hide();
+    m_filterDialog->letGo(); // the filter was the former object's
     m_setupDialog->setObject(nullptr);
     m_setupDialog->hide();
 }
@@ -254,9 +252,7 @@ void DialogGraph::slotInputOn(bool on)
 void DialogGraph::slotFilterSetup()
 {
     if (m_graph != nullptr) {
-        m_filterDialog->setFilter(&m_graph->filter());
-        m_filterDialog->show();
-        m_filterDialog->raise();
+        m_filterDialog->edit(m_graph->filter());
         markEdited();
     }
 }
@@ -431,13 +427,6 @@ void DialogGraph::saveSnapshot()
                               QStringLiteral("bmp"), QStringLiteral("./snapshot.bmp"));
     if (!name.isEmpty()) {
         picture.save(name);
-    }
-}
-
-void DialogGraph::markEdited()
-{
-    if (m_graph->project() != nullptr) {
-        m_graph->project()->markEdited();
     }
 }
 

@@ -88,7 +88,6 @@ private:
     void showGraphSetup();
     void saveSnapshot();
     QPixmap snapshot();
-    void markEdited();
 
     ObjectGraph* m_graph;
     GraphFeed m_feed;

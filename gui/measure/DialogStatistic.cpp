@@ -14,7 +14,6 @@
 #include "gui/measure/StatisticTree.h"
 #include "message/MessageContainer.h"
 #include "project/ObjectStatistic.h"
-#include "project/Project.h"
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
@@ -111,8 +110,7 @@ void DialogStatistic::setObject(Object* object)
 {
     DialogBase::setObject(object);
     m_statisticObject = dynamic_cast<ObjectStatistic*>(object);
-    m_filterDialog->setFilter(nullptr); // the filter was the former object's
-    m_filterDialog->hide();
+    m_filterDialog->letGo(); // the filter was the former object's
 }
 
 void DialogStatistic::receive(MessageContainer& batch)
@@ -215,9 +213,7 @@ void DialogStatistic::slotInputOn(bool on)
 void DialogStatistic::slotFilterSetup()
 {
     if (canEdit()) {
-        m_filterDialog->setFilter(&m_statisticObject->filter());
-        m_filterDialog->show();
-        m_filterDialog->raise();
+        m_filterDialog->edit(m_statisticObject->filter());
         markEdited();
     }
 }
@@ -293,13 +289,6 @@ void DialogStatistic::showSpreading()
     }
     m_statisticObject->settings().selectedId = m_currentItem->data(0, Qt::UserRole).toUInt();
     slotDisplayType(static_cast<int>(StatisticView::Spreading));
-}
-
-void DialogStatistic::markEdited()
-{
-    if (m_statisticObject->project() != nullptr) {
-        m_statisticObject->project()->markEdited();
-    }
 }
 
 } // namespace gui

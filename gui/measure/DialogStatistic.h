@@ -65,7 +65,6 @@ private:
     void showMeasurement();
     void clearForView();
     void showSpreading();
-    void markEdited();
 
     ObjectStatistic* m_statisticObject;
     Statistic m_statistic;

@@ -13,7 +13,6 @@
 #include "message/MessageContainer.h"
 #include "profile/ProfileStore.h"
 #include "project/ObjectReceive.h"
-#include "project/Project.h"
 #include "traffic/ReceiveColumns.h"
 
 #include <QContextMenuEvent>
@@ -103,8 +102,7 @@ void DialogReceive::setObject(Object* object)
 {
     DialogBase::setObject(object);
     m_receive = dynamic_cast<ObjectReceive*>(object);
-    m_filterDialog->setFilter(nullptr); // the filter was the former object's
-    m_filterDialog->hide();
+    m_filterDialog->letGo(); // the filter was the former object's
 }
 
 void DialogReceive::receive(MessageContainer& batch)
@@ -211,9 +209,7 @@ void DialogReceive::slotInputOn(bool on)
 void DialogReceive::slotFilterSetup()
 {
     if (!m_updating && m_receive != nullptr) {
-        m_filterDialog->setFilter(&m_receive->filter());
-        m_filterDialog->show();
-        m_filterDialog->raise();
+        m_filterDialog->edit(m_receive->filter());
         markEdited();
     }
 }
@@ -280,13 +276,6 @@ int DialogReceive::numberType() const
 {
     constexpr int hexadecimal = static_cast<int>(NumberType::Hexadecimal);
     return m_receive->settings().numberType == hexadecimal ? hexadecimal : 0;
-}
-
-void DialogReceive::markEdited()
-{
-    if (m_receive->project() != nullptr) {
-        m_receive->project()->markEdited();
-    }
 }
 
 void DialogReceive::clearRows()

@@ -74,7 +74,6 @@ private:
     void buildColumns();
     /// What the object says, anything but hexadecimal being decimal.
     int numberType() const;
-    void markEdited();
     void clearRows();
     void repaintAll();
     void requestDial();

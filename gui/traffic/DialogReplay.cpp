@@ -6,7 +6,6 @@
 #include "gui/frame/FileDialogs.h"
 #include "gui/frame/WidgetHeader.h"
 #include "project/ObjectReplay.h"
-#include "project/Project.h"
 
 #include <QGridLayout>
 #include <QLCDNumber>
@@ -269,13 +268,6 @@ void DialogReplay::slotTimeout()
     if (tick.isToBeSent) {
         send(tick.batch);
         m_header->setOutputCount(m_player.sentCount());
-    }
-}
-
-void DialogReplay::markEdited()
-{
-    if (m_replay->project() != nullptr) {
-        m_replay->project()->markEdited();
     }
 }
 

@@ -53,7 +53,6 @@ private:
     void showSettings();
     void showControls();
     void showPosition();
-    void markEdited();
 
     ObjectReplay* m_replay;
     Replay m_player;

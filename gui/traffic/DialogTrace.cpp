@@ -14,7 +14,6 @@
 #include "message/MessageContainer.h"
 #include "profile/ProfileStore.h"
 #include "project/ObjectTrace.h"
-#include "project/Project.h"
 #include "traffic/MessageModes.h"
 #include "traffic/TraceLine.h"
 
@@ -139,8 +138,7 @@ void DialogTrace::setObject(Object* object)
 {
     DialogBase::setObject(object);
     m_trace = dynamic_cast<ObjectTrace*>(object);
-    m_filterDialog->setFilter(nullptr); // the filter was the former object's
-    m_filterDialog->hide();
+    m_filterDialog->letGo(); // the filter was the former object's
 }
 
 void DialogTrace::receive(MessageContainer& batch)
@@ -203,9 +201,7 @@ void DialogTrace::slotInputOn(bool on)
 void DialogTrace::slotFilterSetup()
 {
     if (m_trace != nullptr) {
-        m_filterDialog->setFilter(&m_trace->filter());
-        m_filterDialog->show();
-        m_filterDialog->raise();
+        m_filterDialog->edit(m_trace->filter());
         markEdited();
     }
 }
@@ -283,12 +279,5 @@ void DialogTrace::slotClear()
 
 // The view scrolls by itself; nothing follows it.
 void DialogTrace::slotScroll(int) {}
-
-void DialogTrace::markEdited()
-{
-    if (m_trace->project() != nullptr) {
-        m_trace->project()->markEdited();
-    }
-}
 
 } // namespace gui

@@ -57,7 +57,6 @@ private:
     void connectControls();
     void showSettings();
     void showTraceState();
-    void markEdited();
 
     ObjectTrace* m_trace;
     TraceRecorder m_recorder;

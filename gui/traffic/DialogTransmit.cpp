@@ -15,7 +15,6 @@
 #include "gui/traffic/Widget825Raw.h"
 #include "gui/traffic/WidgetCanAs.h"
 #include "gui/traffic/WidgetTransmitCan.h"
-#include "project/Project.h"
 #include "traffic/MessageEntry.h"
 
 #include <QHBoxLayout>
@@ -502,13 +501,6 @@ int DialogTransmit::numberType() const
 {
     constexpr int hexadecimal = static_cast<int>(NumberType::Hexadecimal);
     return isHexadecimal(m_transmit->settings().numberType) ? hexadecimal : 0;
-}
-
-void DialogTransmit::markEdited()
-{
-    if (m_transmit != nullptr && m_transmit->project() != nullptr) {
-        m_transmit->project()->markEdited();
-    }
 }
 
 } // namespace gui

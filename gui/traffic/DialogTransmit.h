@@ -76,7 +76,6 @@ private:
     void sendAll(std::vector<MessageContainer> batches);
     void showCount();
     int numberType() const;
-    void markEdited();
 
     ObjectTransmit* m_transmit;
     Transmitter m_transmitter;
