@@ -5,6 +5,8 @@
 #include "gui/measure/DialogDial.h"
 #include "gui/measure/DialogGraph.h"
 #include "gui/measure/DialogStatistic.h"
+#include "gui/node/DialogFunctionGen.h"
+#include "gui/node/DialogNodeService.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -83,7 +85,11 @@ void registerWindowMakers()
     registerMaker<gui::DialogReplay, ObjectReplay>(ObjectType::Replay, "replay");
     registerMaker<gui::DialogGraph, ObjectGraph>(ObjectType::Graph, "oscilloscope");
     registerMaker<gui::DialogDial, ObjectDial>(ObjectType::Dial, "dial");
+    registerMaker<gui::DialogNodeService, ObjectNodeService>(ObjectType::NodeService,
+                                                             "node-service");
     registerMaker<gui::DialogStatistic, ObjectStatistic>(ObjectType::Statistic, "statistic");
+    registerMaker<gui::DialogFunctionGen, ObjectFunctionGen>(ObjectType::FunctionGen,
+                                                             "function-gen");
 }
 
 } // namespace app

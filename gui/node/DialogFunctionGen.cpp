@@ -1,0 +1,429 @@
+#include "gui/node/DialogFunctionGen.h"
+
+#include "gui/frame/DialogFilter.h"
+#include "gui/frame/InputDialogs.h"
+#include "gui/frame/MessageBoxes.h"
+#include "gui/frame/WidgetHeader.h"
+#include "gui/node/GeneratorNodePanel.h"
+#include "gui/node/GeneratorPage.h"
+#include "node/GeneratorScale.h"
+
+#include <QListWidget>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <utility>
+
+namespace gui {
+
+using Kind = generator::ChannelFrame;
+
+DialogFunctionGen::DialogFunctionGen(ObjectFunctionGen* object, QWidget* parent)
+    : DialogBase(object, parent),
+      m_object(object),
+      m_searchTimer(new QTimer(this)),
+      m_flashTimer(new QTimer(this))
+{
+    m_searchTimer->setSingleShot(true);
+    m_searchTimer->setInterval(GeneratorControl::searchPeriodMs);
+    m_flashTimer->setSingleShot(true);
+    m_flashTimer->setInterval(GeneratorControl::flashTimeoutMs);
+    build();
+    updateDialog();
+    showFlash();
+    resize(sizeHint());
+}
+
+DialogFunctionGen::~DialogFunctionGen() = default;
+
+void DialogFunctionGen::setObject(Object* object)
+{
+    DialogBase::setObject(object);
+    m_object = dynamic_cast<ObjectFunctionGen*>(object);
+    m_filterDialog->letGo(); // the filter was the former object's
+}
+
+void DialogFunctionGen::forceClose()
+{
+    DialogBase::forceClose();
+    endSearch();
+    m_flashTimer->stop();
+}
+
+void DialogFunctionGen::updateDialog()
+{
+    if (m_object == nullptr) {
+        return;
+    }
+    const QScopedValueRollback<bool> guard(m_filling, true);
+    const FunctionGenSettings& settings = m_object->settings();
+    m_header->setInputOn(settings.inputOn);
+    m_header->setOutputOn(settings.outputOn);
+    m_header->setFilterOn(m_object->filter().isOn());
+    m_header->setInputInterface(settings.inputInterface);
+    m_header->setOutputInterface(settings.outputInterface);
+    m_panel->showGenerator(m_object->generator());
+    for (std::size_t i = 0; i < m_pages.size(); ++i) {
+        m_pages[i]->showChannel(m_object->channels()[i]);
+    }
+}
+
+DialogFunctionGen::Channel& DialogFunctionGen::channel()
+{
+    return m_object->channels()[m_selectedChannel];
+}
+
+void DialogFunctionGen::showChannel()
+{
+    const QScopedValueRollback<bool> guard(m_filling, true);
+    m_pages[m_selectedChannel]->showChannel(channel());
+}
+
+void DialogFunctionGen::showFlash()
+{
+    m_panel->showFlash(m_control.flashLook(),
+                       m_control.flashStatus() == GeneratorControl::FlashStatus::Waiting);
+}
+
+void DialogFunctionGen::receive(MessageContainer& batch)
+{
+    if (m_object == nullptr) {
+        return;
+    }
+    const GeneratorControl::Update update = m_control.receive(batch, *m_object);
+    if (!update.isOurs) {
+        return;
+    }
+    m_header->setInputCount(m_control.receivedTotal());
+    if (update.found) {
+        m_panel->showFound(m_control.found());
+        const QScopedValueRollback<bool> guard(m_filling, true);
+        m_panel->showGenerator(m_object->generator());
+    }
+    if (update.flash) {
+        showFlash();
+    }
+}
+
+void DialogFunctionGen::sendFrames(MessageContainer batch)
+{
+    if (batch.size() > 0) {
+        send(batch);
+        m_header->setOutputCount(m_control.sentTotal());
+    }
+}
+
+void DialogFunctionGen::slotInputOn(bool on)
+{
+    if (canEdit()) {
+        m_object->settings().inputOn = on;
+        markEdited();
+    }
+}
+
+void DialogFunctionGen::slotFilterSetup()
+{
+    if (m_object != nullptr) {
+        m_filterDialog->edit(m_object->filter());
+    }
+}
+
+void DialogFunctionGen::slotFilterOn(bool on)
+{
+    if (canEdit()) {
+        m_object->filter().setOn(on);
+        markEdited();
+    }
+}
+
+void DialogFunctionGen::slotSetup() {} // there is nothing to set up
+
+void DialogFunctionGen::slotInputInterface(const QString& name)
+{
+    if (canEdit()) {
+        m_object->settings().inputInterface = name;
+        markEdited();
+    }
+}
+
+void DialogFunctionGen::slotOutputInterface(const QString& name)
+{
+    if (canEdit()) {
+        m_object->settings().outputInterface = name;
+        markEdited();
+    }
+}
+
+void DialogFunctionGen::slotOutputOn(bool on)
+{
+    if (canEdit()) {
+        m_object->settings().outputOn = on;
+        markEdited();
+    }
+}
+
+void DialogFunctionGen::slotSearch()
+{
+    if (m_object == nullptr) {
+        return;
+    }
+    m_control.startSearch();
+    m_panel->showFound(m_control.found());
+    m_searchCursor = std::make_unique<BusyCursor>(Qt::WaitCursor);
+    m_panel->showSearch(true, m_control.searchNode());
+    m_searchTimer->start();
+}
+
+void DialogFunctionGen::slotTimeout()
+{
+    if (m_object == nullptr) {
+        endSearch();
+        return;
+    }
+    sendFrames(m_control.searchStep(*m_object));
+    m_panel->showSearch(true, m_control.searchNode());
+    if (m_control.isSearching()) {
+        m_searchTimer->start();
+        return;
+    }
+    endSearch();
+    if (m_control.found().empty()) {
+        MessageBoxes::ask(this, QMessageBox::Warning, QLatin1String(MessageBoxes::warningTitle),
+                          QStringLiteral("No generators found !"), {QMessageBox::Ok});
+    }
+}
+
+void DialogFunctionGen::endSearch()
+{
+    m_searchTimer->stop();
+    m_searchCursor.reset();
+    m_panel->showSearch(false, 0);
+}
+
+void DialogFunctionGen::slotNode(QListWidgetItem* current, QListWidgetItem*)
+{
+    if (m_object == nullptr || current == nullptr) {
+        return;
+    }
+    m_object->generator().nodeId = current->data(Qt::UserRole).toInt();
+    m_object->generator().nodeBaseId =
+        static_cast<std::int32_t>(current->data(GeneratorNodePanel::baseIdRole).toUInt());
+    const QScopedValueRollback<bool> guard(m_filling, true);
+    m_panel->showGenerator(m_object->generator());
+}
+
+void DialogFunctionGen::slotNodeId(int nodeId)
+{
+    if (canEdit()) {
+        m_object->generator().nodeId = nodeId;
+    }
+}
+
+void DialogFunctionGen::slotNodeCanId(int baseId)
+{
+    if (canEdit()) {
+        m_object->generator().nodeBaseId = baseId;
+    }
+}
+
+void DialogFunctionGen::slotBaudrate(int index)
+{
+    if (canEdit()) {
+        m_object->generator().baudrate = index;
+    }
+}
+
+bool DialogFunctionGen::isConfirmed(const char* question)
+{
+    if (m_object == nullptr) {
+        return false;
+    }
+    const QPointer<DialogFunctionGen> self(this); // the window may close behind the box
+    const auto answer =
+        MessageBoxes::ask(this, QMessageBox::Warning, QLatin1String(MessageBoxes::warningTitle),
+                          QLatin1String(question), {QMessageBox::Yes, QMessageBox::Cancel});
+    return answer == QMessageBox::Yes && !self.isNull() && m_object != nullptr;
+}
+
+void DialogFunctionGen::flash(MessageContainer batch)
+{
+    sendFrames(std::move(batch));
+    showFlash();
+    m_flashTimer->start();
+}
+
+void DialogFunctionGen::slotFlashNodeId()
+{
+    if (m_object == nullptr) {
+        return;
+    }
+    constexpr int lowestNode = 1;
+    constexpr int highestNode = 100;
+    const QPointer<DialogFunctionGen> self(this); // the window may close behind the box
+    const std::optional<int> node =
+        InputDialogs::integer(this, {QStringLiteral("ZUL"), QStringLiteral("Enter new node id:"),
+                                     m_object->generator().nodeId, lowestNode, highestNode, 1});
+    if (!node.has_value() || self.isNull() || m_object == nullptr) {
+        return;
+    }
+    MessageContainer batch = m_control.setNodeId(*m_object, static_cast<std::uint32_t>(*node));
+    {
+        const QScopedValueRollback<bool> guard(m_filling, true);
+        m_panel->showGenerator(m_object->generator());
+    }
+    flash(std::move(batch));
+}
+
+void DialogFunctionGen::slotFlashNodeCanId()
+{
+    if (isConfirmed("Are you sure to change the CAN base id ?\n")) {
+        flash(m_control.setBaseId(*m_object));
+    }
+}
+
+void DialogFunctionGen::slotFlashBaudrate()
+{
+    if (isConfirmed("Are you sure to change the baudrate ?\n")) {
+        flash(m_control.setBaudrate(*m_object));
+    }
+}
+
+void DialogFunctionGen::slotFlashParameter()
+{
+    if (isConfirmed("Are you sure to store all data permanently ?\n")) {
+        flash(m_control.storeData(*m_object));
+    }
+}
+
+void DialogFunctionGen::slotTimeoutFlash()
+{
+    m_control.flashTimeOut();
+    showFlash();
+}
+
+void DialogFunctionGen::slotTab(int channel)
+{
+    if (channel >= 0 && static_cast<std::size_t>(channel) < m_pages.size()) {
+        m_selectedChannel = static_cast<std::size_t>(channel);
+    }
+}
+
+void DialogFunctionGen::channelChanged(MessageContainer batch)
+{
+    sendFrames(std::move(batch));
+    markEdited();
+    showChannel();
+}
+
+void DialogFunctionGen::slotOnOff(int state)
+{
+    if (canEdit()) {
+        channel().active = state == Qt::Checked;
+        channelChanged(m_control.writeActivation(*m_object, m_selectedChannel));
+    }
+}
+
+void DialogFunctionGen::slotWaveForm(int waveform)
+{
+    if (canEdit()) {
+        channel().waveForm = waveform;
+        channelChanged(m_control.writeConfiguration(*m_object, m_selectedChannel));
+    }
+}
+
+void DialogFunctionGen::slotId(int id)
+{
+    if (canEdit()) {
+        channel().canId = static_cast<std::uint32_t>(id);
+        channelChanged(m_control.writeSetting(*m_object, m_selectedChannel, Kind::CanId));
+    }
+}
+
+void DialogFunctionGen::slotDataType(int dataType)
+{
+    if (canEdit()) {
+        channel().dataType = dataType;
+        channelChanged(m_control.writeConfiguration(*m_object, m_selectedChannel));
+    }
+}
+
+void DialogFunctionGen::slotSeparation(int separation)
+{
+    if (canEdit()) {
+        channel().separation = separation;
+        channelChanged(m_control.writeConfiguration(*m_object, m_selectedChannel));
+    }
+}
+
+void DialogFunctionGen::slotFrequencyRange(int exponent)
+{
+    if (canEdit()) {
+        channel().frequencyFactor = exponent;
+        channelChanged({});
+    }
+}
+
+void DialogFunctionGen::slotFrequency(int position)
+{
+    if (canEdit()) {
+        slotFrequency(static_cast<double>(dialNumber(position, channel().frequencyFactor)));
+    }
+}
+
+void DialogFunctionGen::slotFrequency(double frequency)
+{
+    if (canEdit()) {
+        channel().frequency = static_cast<float>(frequency);
+        channelChanged(m_control.writeSetting(*m_object, m_selectedChannel, Kind::Frequency));
+    }
+}
+
+void DialogFunctionGen::slotAmplitudeRange(int exponent)
+{
+    if (canEdit()) {
+        channel().amplitudeFactor = exponent;
+        channelChanged({});
+    }
+}
+
+void DialogFunctionGen::slotAmplitude(int position)
+{
+    if (canEdit()) {
+        slotAmplitude(static_cast<double>(dialNumber(position, channel().amplitudeFactor)));
+    }
+}
+
+void DialogFunctionGen::slotAmplitude(double amplitude)
+{
+    if (canEdit()) {
+        channel().amplitude = static_cast<float>(amplitude);
+        channelChanged(m_control.writeSetting(*m_object, m_selectedChannel, Kind::Amplitude));
+    }
+}
+
+void DialogFunctionGen::slotOffsetRange(int exponent)
+{
+    if (canEdit()) {
+        channel().offsetFactor = exponent;
+        channelChanged({});
+    }
+}
+
+void DialogFunctionGen::slotOffset(int position)
+{
+    if (canEdit()) {
+        slotOffset(static_cast<double>(dialNumber(position, channel().offsetFactor)));
+    }
+}
+
+void DialogFunctionGen::slotOffset(double offset)
+{
+    if (canEdit()) {
+        channel().offset = static_cast<float>(offset);
+        channelChanged(m_control.writeSetting(*m_object, m_selectedChannel, Kind::Offset));
+    }
+}
+
+} // namespace gui

@@ -1,0 +1,3 @@
+#include "node/ServiceLink.h"
+
+ServiceLink::~ServiceLink() = default;
