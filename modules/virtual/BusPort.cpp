@@ -3,6 +3,7 @@
 #include "modules/virtual/ScenarioFactory.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace canvirtual {
 
@@ -22,12 +23,20 @@ std::uint64_t windowBits(const WireFrame& wire)
 
 BusPort::BusPort(const PortSettings& settings, BusTime openedAt)
     : m_settings(settings),
-      m_scenario(makeScenario(settings.scenario, openedAt)),
       m_controller(duration({1, 0}, settings.rates)),
       m_bitTime(duration({1, 0}, settings.rates)),
       m_windowStart(openedAt),
       m_nextReport(openedAt + reportInterval)
 {
+    addScenario(makeScenario(settings.scenario, openedAt));
+    addScenario(makeNode(settings.node, settings.generatorMemory, openedAt));
+}
+
+void BusPort::addScenario(std::unique_ptr<Scenario> scenario)
+{
+    if (scenario != nullptr) {
+        m_scenarios.push_back(std::move(scenario));
+    }
 }
 
 bool BusPort::queue(const PendingFrame& frame)
@@ -54,8 +63,8 @@ BusTime BusPort::readyAt() const
     if (!m_queue.empty()) {
         earliest = std::min(earliest, ownReadyAt(&m_queue.front()));
     }
-    if (m_scenario != nullptr) {
-        earliest = std::min(earliest, m_scenario->readyAt());
+    for (const auto& scenario : m_scenarios) {
+        earliest = std::min(earliest, scenario->readyAt());
     }
     return earliest;
 }
@@ -64,10 +73,12 @@ const PendingFrame* BusPort::offer(BusTime start, FrameSource& source)
 {
     const PendingFrame* best = nullptr;
     const auto compare = [&best, &source](const PendingFrame* frame, FrameSource from) {
-        if (best == nullptr || frame->priority < best->priority) {
+        const bool wins = best == nullptr || frame->priority < best->priority;
+        if (wins) {
             best = frame;
             source = from;
         }
+        return wins;
     };
     if (!m_queue.empty() && ownReadyAt(&m_queue.front()) <= start) {
         compare(&m_queue.front(), FrameSource::Queue);
@@ -75,8 +86,11 @@ const PendingFrame* BusPort::offer(BusTime start, FrameSource& source)
     if (ownReadyAt(m_schedule.head()) <= start) {
         compare(m_schedule.head(), FrameSource::Schedule);
     }
-    if (m_scenario != nullptr && m_scenario->readyAt() <= start) {
-        compare(&m_scenario->offer(start), FrameSource::Scenario);
+    for (const auto& scenario : m_scenarios) {
+        if (scenario->readyAt() <= start &&
+            compare(&scenario->offer(start), FrameSource::Scenario)) {
+            m_offering = scenario.get();
+        }
     }
     return best;
 }
@@ -91,7 +105,7 @@ void BusPort::taken(FrameSource source, BusTime end)
         m_schedule.pop();
         break;
     case FrameSource::Scenario:
-        m_scenario->sent(end);
+        m_offering->sent(end);
         return;
     }
     if (m_controller.isPassive()) {
@@ -101,13 +115,30 @@ void BusPort::taken(FrameSource source, BusTime end)
 
 void BusPort::observe(const WireFrame& wire, bool ownFrame)
 {
-    if (m_lost || m_controller.isBusOff()) {
+    if (m_lost) {
+        return;
+    }
+    tellScenarios(wire, ownFrame);
+    if (m_controller.isBusOff()) {
         return;
     }
     if (wire.pending.fate == FrameFate::Arrives) {
         countFrame(wire, ownFrame && wire.source != FrameSource::Scenario);
     } else {
         countError(wire, ownFrame);
+    }
+}
+
+void BusPort::tellScenarios(const WireFrame& wire, bool ownFrame)
+{
+    if (wire.pending.fate != FrameFate::Arrives) {
+        return;
+    }
+    const bool isOneOfThem = ownFrame && wire.source == FrameSource::Scenario;
+    for (const auto& scenario : m_scenarios) {
+        if (!isOneOfThem || scenario.get() != m_offering) {
+            scenario->observe(wire.pending.frame, wire.end);
+        }
     }
 }
 
@@ -163,7 +194,10 @@ void BusPort::store(const WireFrame& wire, FrameType type)
 void BusPort::settle(BusTime time)
 {
     m_controller.update(time);
-    if (m_scenario != nullptr && time >= m_scenario->lostAt()) {
+    const bool isLost =
+        std::any_of(m_scenarios.begin(), m_scenarios.end(),
+                    [time](const auto& scenario) { return time >= scenario->lostAt(); });
+    if (isLost) {
         lose();
     }
 }
@@ -171,7 +205,8 @@ void BusPort::settle(BusTime time)
 void BusPort::lose()
 {
     m_lost = true;
-    m_scenario.reset();
+    m_scenarios.clear();
+    m_offering = nullptr;
     m_queue.clear();
     m_schedule.clear();
     m_received.clear();
@@ -179,8 +214,8 @@ void BusPort::lose()
 
 void BusPort::skipTo(BusTime time)
 {
-    if (m_scenario != nullptr) {
-        m_scenario->skipTo(time);
+    for (const auto& scenario : m_scenarios) {
+        scenario->skipTo(time);
     }
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "modules/virtual/FaultConfinement.h"
+#include "modules/virtual/GeneratorNode.h"
+#include "modules/virtual/NodeSettings.h"
 #include "modules/virtual/Scenario.h"
 #include "modules/virtual/ScenarioId.h"
 #include "modules/virtual/SendSchedule.h"
@@ -30,6 +32,8 @@ struct PortSettings
     BusRates rates;
     bool receiveOwn = false;
     ScenarioId scenario = ScenarioId::None;
+    NodeSettings node;
+    std::shared_ptr<GeneratorMemory> generatorMemory = std::make_shared<GeneratorMemory>();
 };
 
 /// Counters of a port since it was opened or its counters were cleared.
@@ -66,8 +70,8 @@ struct PortReport
     std::size_t scheduled = 0;
 };
 
-/// One device's connection to a bus: transmit queue, schedule, scenario, controller state and
-/// received frames. Every call comes under the lock of the bus.
+/// One device's connection to a bus: transmit queue, schedule, what is simulated beside the device,
+/// controller state and received frames. Every call comes under the lock of the bus.
 class BusPort
 {
 public:
@@ -97,11 +101,12 @@ public:
 
     /// Brings the controller's state, and whether the device is lost, up to `time`.
     void settle(BusTime time);
-    /// Drops the scenario's frames before `time`.
+    /// Drops the scenarios' frames before `time`.
     void skipTo(BusTime time);
     void addSkipped(BusTime span) { m_counters.skipped += span; }
 
-    bool hasScenario() const { return m_scenario != nullptr; }
+    /// Whether anything but the program makes frames here.
+    bool hasScenario() const { return !m_scenarios.empty(); }
 
     bool isBusOff() const { return m_controller.isBusOff(); }
 
@@ -120,7 +125,9 @@ public:
     void clearCounters();
 
 private:
+    void addScenario(std::unique_ptr<Scenario> scenario);
     BusTime ownReadyAt(const PendingFrame* head) const;
+    void tellScenarios(const WireFrame& wire, bool ownFrame);
     void countFrame(const WireFrame& wire, bool ownFrame);
     void countError(const WireFrame& wire, bool ownFrame);
     void store(const WireFrame& wire, FrameType type);
@@ -129,7 +136,8 @@ private:
     PortSettings m_settings;
     std::deque<PendingFrame> m_queue;
     SendSchedule m_schedule;
-    std::unique_ptr<Scenario> m_scenario;
+    std::vector<std::unique_ptr<Scenario>> m_scenarios; ///< the traffic, the node
+    Scenario* m_offering = nullptr; ///< whose frame was offered last, and may be on the wire
     FaultConfinement m_controller;
     std::vector<BusFrame> m_received;
     PortCounters m_counters;

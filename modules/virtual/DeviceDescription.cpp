@@ -54,12 +54,24 @@ std::vector<PropertyChoice> bitRateChoices()
     return choices;
 }
 
-std::vector<PropertyChoice> scenarioChoices()
+/// Choices that are numbered from 0.
+template <std::size_t Size>
+std::vector<PropertyChoice> numberedChoices(const std::array<const char*, Size>& names)
 {
     std::vector<PropertyChoice> choices;
-    choices.reserve(scenarioNames.size());
-    for (std::int32_t number = 0; number < scenarioCount; ++number) {
-        choices.push_back({scenarioNames.at(static_cast<std::size_t>(number)), number});
+    choices.reserve(Size);
+    for (const char* name : names) {
+        choices.push_back({name, static_cast<std::int32_t>(choices.size())});
+    }
+    return choices;
+}
+
+std::vector<PropertyChoice> pacingChoices()
+{
+    std::vector<PropertyChoice> choices;
+    choices.reserve(nodePacings.size());
+    for (const NodePacing& pacing : nodePacings) {
+        choices.push_back({pacing.name, static_cast<std::int32_t>(choices.size())});
     }
     return choices;
 }
@@ -77,7 +89,7 @@ DeviceInfo deviceDescription()
     DeviceInfo info;
     info.displayName = "Virtual CAN Bus";
     info.description = "CAN and CAN FD buses inside the program: devices of one bus name see each "
-                       "other's frames, and a scenario makes traffic.";
+                       "other's frames, a scenario makes traffic, and a node answers.";
     info.moduleName = "libCanVirtual";
     info.properties = {
         property("Interface Name", key::interfaceName, PropertyKind::Text),
@@ -90,7 +102,13 @@ DeviceInfo deviceDescription()
         property("TDCR", key::tdcr, PropertyKind::Tdcr, presetChoices(tdcrPresets)),
         property("Receive Own Frames", key::receiveOwn, PropertyKind::Selection,
                  {{"No", 0}, {"Yes", 1}}),
-        property("Scenario", key::scenario, PropertyKind::Selection, scenarioChoices()),
+        property("Scenario", key::scenario, PropertyKind::Selection,
+                 numberedChoices(scenarioNames)),
+        property("Node", key::node, PropertyKind::Selection, numberedChoices(nodeKindNames)),
+        property("Node Id", key::nodeId, PropertyKind::Text),
+        property("Node Pacing", key::nodePacing, PropertyKind::Selection, pacingChoices()),
+        property("Node Fault", key::nodeFault, PropertyKind::Selection,
+                 numberedChoices(nodeFaultNames)),
     };
     return info;
 }

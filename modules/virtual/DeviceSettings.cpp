@@ -122,6 +122,30 @@ bool DeviceSettings::setNumber(const std::string& key, std::uint32_t number)
             m_scenario = static_cast<ScenarioId>(number);
         }
     } else {
+        return setNodeNumber(key, number);
+    }
+    return true;
+}
+
+bool DeviceSettings::setNodeNumber(const std::string& key, std::uint32_t number)
+{
+    if (key == key::node) {
+        if (number < static_cast<std::uint32_t>(nodeKindCount)) {
+            m_node.kind = static_cast<NodeKind>(number);
+        }
+    } else if (key == key::nodeId) {
+        if (number > 0 && number <= maxNodeId) {
+            m_node.id = static_cast<std::uint8_t>(number);
+        }
+    } else if (key == key::nodePacing) {
+        if (number < static_cast<std::uint32_t>(nodePacingCount)) {
+            m_node.pacing = static_cast<int>(number);
+        }
+    } else if (key == key::nodeFault) {
+        if (number < static_cast<std::uint32_t>(nodeFaultCount)) {
+            m_node.fault = static_cast<NodeFault>(number);
+        }
+    } else {
         return false;
     }
     return true;
@@ -170,6 +194,10 @@ void DeviceSettings::writeTo(std::map<std::string, std::string>& properties) con
     properties[key::tdcr] = hexText(m_tdcr);
     properties[key::receiveOwn] = m_receiveOwn ? "1" : "0";
     properties[key::scenario] = std::to_string(static_cast<int>(m_scenario));
+    properties[key::node] = std::to_string(static_cast<int>(m_node.kind));
+    properties[key::nodeId] = std::to_string(m_node.id);
+    properties[key::nodePacing] = std::to_string(m_node.pacing);
+    properties[key::nodeFault] = std::to_string(static_cast<int>(m_node.fault));
 }
 
 } // namespace canvirtual

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "modules/virtual/FrameLength.h"
+#include "modules/virtual/NodeSettings.h"
 #include "modules/virtual/ScenarioId.h"
 
 #include <cstdint>
@@ -20,6 +21,10 @@ constexpr const char* dbtp = "DBTP";
 constexpr const char* tdcr = "TDCR";
 constexpr const char* receiveOwn = "ReceiveOwn";
 constexpr const char* scenario = "Scenario";
+constexpr const char* node = "Node";
+constexpr const char* nodeId = "NodeId";
+constexpr const char* nodePacing = "NodePacing";
+constexpr const char* nodeFault = "NodeFault";
 } // namespace key
 
 /// The device's configuration, kept free of contradictions.
@@ -51,6 +56,8 @@ public:
 
     ScenarioId scenario() const { return m_scenario; }
 
+    const NodeSettings& node() const { return m_node; }
+
     std::uint32_t btr() const { return m_btr; }
 
     std::uint32_t nbtp() const { return m_nbtp; }
@@ -58,6 +65,7 @@ public:
 private:
     bool setText(const std::string& key, const std::string& value);
     bool setNumber(const std::string& key, std::uint32_t number);
+    bool setNodeNumber(const std::string& key, std::uint32_t number);
     void setBitRate(std::int32_t bitRate);
     void setBtr(std::uint32_t btr);
     void setNbtp(std::uint32_t nbtp);
@@ -71,6 +79,7 @@ private:
     std::uint32_t m_tdcr = 0;
     bool m_receiveOwn = false;
     ScenarioId m_scenario = ScenarioId::None;
+    NodeSettings m_node;
 };
 
 } // namespace canvirtual

@@ -4,6 +4,8 @@ namespace canvirtual {
 
 Scenario::~Scenario() = default;
 
+void Scenario::observe(const BusFrame&, BusTime) {}
+
 BusTime Scenario::lostAt() const
 {
     return never;

@@ -29,6 +29,9 @@ public:
     /// Drops everything before `time`: nobody has looked at the bus for long.
     virtual void skipTo(BusTime time) = 0;
 
+    /// A frame of anybody else has left the bus at `end`. Nothing here.
+    virtual void observe(const BusFrame& frame, BusTime end);
+
     /// When the device's hardware is lost.
     virtual BusTime lostAt() const;
 };

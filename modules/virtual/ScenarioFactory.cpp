@@ -5,6 +5,7 @@
 #include "modules/virtual/FdScenario.h"
 #include "modules/virtual/FlightScenario.h"
 #include "modules/virtual/SaturatedScenario.h"
+#include "modules/virtual/ServerNode.h"
 
 namespace canvirtual {
 
@@ -29,6 +30,20 @@ std::unique_ptr<Scenario> makeScenario(ScenarioId id, BusTime start)
         return std::make_unique<BurstScenario>(start);
     case ScenarioId::LostDevice:
         return std::make_unique<LostDeviceScenario>(start);
+    }
+    return nullptr;
+}
+
+std::unique_ptr<Scenario> makeNode(const NodeSettings& settings,
+                                   const std::shared_ptr<GeneratorMemory>& memory, BusTime start)
+{
+    switch (settings.kind) {
+    case NodeKind::None:
+        break;
+    case NodeKind::ServiceServer:
+        return std::make_unique<ServerNode>(settings);
+    case NodeKind::FunctionGenerator:
+        return std::make_unique<GeneratorNode>(settings, memory, start);
     }
     return nullptr;
 }

@@ -29,7 +29,7 @@ bool VirtualDevice::open()
     m_handedOut = 0;
     m_bus = m_registry.bus(m_settings.busName());
     const PortSettings settings = {m_settings.rates(), m_settings.receiveOwn(),
-                                   m_settings.scenario()};
+                                   m_settings.scenario(), m_settings.node(), m_generatorMemory};
     std::string error;
     m_port = m_bus->attach(settings, error);
     if (m_port == nullptr) {

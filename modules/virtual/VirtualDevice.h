@@ -64,6 +64,7 @@ private:
     std::mutex m_mutex; ///< guards everything below
     DeviceSettings m_settings;
     ReportContext m_context;
+    std::shared_ptr<GeneratorMemory> m_generatorMemory = std::make_shared<GeneratorMemory>();
     std::shared_ptr<VirtualBus> m_bus;
     std::unique_ptr<BusPort> m_port; ///< null while closed
     std::vector<BusFrame> m_batch;   ///< fetched from the bus, to be handed out

@@ -1,0 +1,157 @@
+#include "modules/virtual/ServerNode.h"
+
+#include "modules/virtual/Payload.h"
+
+namespace canvirtual {
+
+namespace {
+
+// Bits of an identifier on the service channels.
+constexpr std::uint32_t requestBit = 1U << 18U;
+constexpr std::uint32_t privateBit = 1U << 16U;
+
+constexpr std::uint32_t identificationService = 0;
+constexpr std::uint32_t uploadService = 2;
+
+constexpr std::uint32_t requestBytes = 2;
+constexpr std::uint32_t uploadMessageBytes = 8;
+constexpr std::uint32_t ackBytes = 3;
+constexpr std::uint32_t errorBytes = 4; // as many as no client takes for an ACK
+
+constexpr std::uint8_t refusalCode = 1;
+constexpr std::uint8_t confirmed = 1;
+
+bool isServiceRequest(const BusFrame& frame)
+{
+    return frame.type == FrameType::Data && frame.mode == FrameMode::Extended &&
+           (frame.id & requestBit) != 0;
+}
+
+std::uint32_t bigEndian16(const BusFrame& frame, std::size_t offset)
+{
+    return static_cast<std::uint32_t>(frame.data.at(offset)) << 8U | frame.data.at(offset + 1);
+}
+
+BusFrame answerTo(std::uint32_t requestId, std::uint32_t byteCount)
+{
+    return nodeFrame(requestId & ~requestBit, byteCount, true);
+}
+
+} // namespace
+
+ServerNode::ServerNode(const NodeSettings& settings)
+    : m_settings(settings),
+      m_pacing(nodePacings.at(static_cast<std::size_t>(settings.pacing))),
+      m_replies(settings.fault)
+{
+}
+
+BusTime ServerNode::readyAt() const
+{
+    return m_replies.readyAt();
+}
+
+const PendingFrame& ServerNode::offer(BusTime)
+{
+    return m_replies.front();
+}
+
+void ServerNode::sent(BusTime)
+{
+    m_replies.pop();
+}
+
+void ServerNode::skipTo(BusTime) {} // whoever asked still waits
+
+void ServerNode::observe(const BusFrame& frame, BusTime end)
+{
+    if (!isServiceRequest(frame)) {
+        return;
+    }
+    if (m_transfer && frame.id == (m_transfer->requestId | privateBit)) {
+        takeData(frame, end);
+    } else if (frame.byteCount == requestBytes && bigEndian16(frame, 0) == identificationService) {
+        identify(frame, end);
+    } else if (frame.byteCount == uploadMessageBytes && bigEndian16(frame, 0) == uploadService) {
+        takeUploadMessage(frame, end);
+    }
+}
+
+void ServerNode::identify(const BusFrame& request, BusTime end)
+{
+    BusFrame answer = answerTo(request.id, uploadMessageBytes);
+    putBigEndian(answer, 2, profileId, 2);
+    putBigEndian(answer, 4, profileSubId, 2);
+    putBigEndian(answer, 6, m_settings.id, 2);
+    m_replies.add(answer, end);
+}
+
+bool ServerNode::isConfirmation(const BusFrame& frame) const
+{
+    return m_transfer && !m_transfer->isConfirmed && frame.id == m_transfer->requestId &&
+           frame.data.at(2) == confirmed && frame.data.at(3) == m_pacing.messageSeparation &&
+           bigEndian16(frame, 4) == m_pacing.blockSize &&
+           bigEndian16(frame, 6) == m_pacing.blockSeparation;
+}
+
+void ServerNode::takeUploadMessage(const BusFrame& frame, BusTime end)
+{
+    if (!isConfirmation(frame)) {
+        startTransfer(frame, end);
+        return;
+    }
+    m_transfer->isConfirmed = true;
+    if (m_settings.fault == NodeFault::NoAck) {
+        m_transfer.reset();
+        return;
+    }
+    BusFrame ack = answerTo(frame.id, ackBytes);
+    putBigEndian(ack, 0, uploadService, 2);
+    m_replies.add(ack, end);
+}
+
+void ServerNode::startTransfer(const BusFrame& request, BusTime end)
+{
+    const bool isRefused = m_settings.fault == NodeFault::Refuses;
+    BusFrame answer = answerTo(request.id, uploadMessageBytes);
+    putBigEndian(answer, 0, uploadService, 2);
+    answer.data.at(2) = isRefused ? refusalCode : std::uint8_t{0};
+    answer.data.at(3) = m_pacing.messageSeparation;
+    putBigEndian(answer, 4, m_pacing.blockSize, 2);
+    putBigEndian(answer, 6, m_pacing.blockSeparation, 2);
+    m_replies.add(answer, end);
+    m_transfer.reset();
+    if (!isRefused) {
+        m_transfer.emplace(
+            Transfer{request.id, UploadSession(bigEndian32(request, 4), m_pacing), false});
+    }
+}
+
+void ServerNode::takeData(const BusFrame& frame, BusTime end)
+{
+    if (!m_transfer->isConfirmed) {
+        return;
+    }
+    UploadSession& session = m_transfer->session;
+    session.take(frame, end);
+    const bool fallsSilent =
+        m_settings.fault == NodeFault::NoEnd && session.framesTaken() >= session.frameCount() / 2;
+    if (fallsSilent) {
+        m_transfer.reset();
+    } else if (session.isComplete()) {
+        finish(end);
+    }
+}
+
+void ServerNode::finish(BusTime end)
+{
+    const UploadSession::Error error = m_transfer->session.error();
+    const bool isRight = error == UploadSession::Error::None;
+    BusFrame answer = answerTo(m_transfer->requestId, isRight ? ackBytes : errorBytes);
+    putBigEndian(answer, 0, uploadService, 2);
+    answer.data.at(2) = static_cast<std::uint8_t>(error);
+    m_replies.add(answer, end);
+    m_transfer.reset();
+}
+
+} // namespace canvirtual
