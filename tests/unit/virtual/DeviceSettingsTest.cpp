@@ -94,6 +94,37 @@ TEST(DeviceSettings, TextThatIsNoNumberChangesNothing)
     EXPECT_EQ(textsOf(settings), before);
 }
 
+TEST(DeviceSettings, NodeHasItsOwnProperties)
+{
+    DeviceSettings settings;
+    EXPECT_EQ(settings.node().kind, NodeKind::None);
+    EXPECT_EQ(settings.node().id, 1);
+    EXPECT_EQ(settings.node().pacing, 0);
+    EXPECT_EQ(settings.node().fault, NodeFault::None);
+    settings.set("Node", "2");
+    settings.set("NodeId", "255");
+    settings.set("NodePacing", "3");
+    settings.set("NodeFault", "6");
+    EXPECT_EQ(settings.node().kind, NodeKind::FunctionGenerator);
+    EXPECT_EQ(settings.node().id, 255);
+    EXPECT_EQ(settings.node().pacing, 3);
+    EXPECT_EQ(settings.node().fault, NodeFault::NoEnd);
+    const Properties before = textsOf(settings);
+    EXPECT_EQ(before.at("Node"), "2");
+    EXPECT_EQ(before.at("NodeId"), "255");
+    EXPECT_EQ(before.at("NodePacing"), "3");
+    EXPECT_EQ(before.at("NodeFault"), "6");
+    for (const auto& [key, tooLarge] : Properties{
+             {"Node", "3"}, {"NodeId", "256"}, {"NodePacing", "4"}, {"NodeFault", "7"}}) {
+        EXPECT_TRUE(settings.set(key, tooLarge));
+        EXPECT_TRUE(settings.set(key, "-1"));
+        EXPECT_TRUE(settings.set(key, "none"));
+        EXPECT_EQ(textsOf(settings), before) << key;
+    }
+    EXPECT_TRUE(settings.set("NodeId", "0"));
+    EXPECT_EQ(textsOf(settings), before);
+}
+
 TEST(DeviceSettings, UnknownKeyIsTold)
 {
     DeviceSettings settings;
