@@ -10,12 +10,13 @@ void SendSchedule::begin()
     m_open = true;
 }
 
-bool SendSchedule::add(const PendingFrame& frame)
+bool SendSchedule::add(const BusFrame& frame, BusTime delay)
 {
-    if (!m_open || m_frames.size() >= capacity) {
+    if (!m_open || m_frames.size() >= m_capacity) {
         return false;
     }
     m_frames.push_back(frame);
+    m_frames.back().time = delay;
     return true;
 }
 
@@ -27,10 +28,13 @@ void SendSchedule::end()
 void SendSchedule::start(BusTime now)
 {
     m_open = false;
-    std::stable_sort(m_frames.begin(), m_frames.end(),
-                     [](const PendingFrame& left, const PendingFrame& right) {
-                         return left.readyAt < right.readyAt;
-                     });
+    const auto isSooner = [](const BusFrame& left, const BusFrame& right) {
+        return left.time < right.time;
+    };
+    // Sorting moves every frame several times, and most schedules come sorted.
+    if (!std::is_sorted(m_frames.begin(), m_frames.end(), isSooner)) {
+        std::stable_sort(m_frames.begin(), m_frames.end(), isSooner);
+    }
     m_startedAt = now;
     m_next = 0;
     m_running = true;
@@ -55,8 +59,9 @@ void SendSchedule::pop()
 void SendSchedule::loadHead()
 {
     if (left() > 0) {
-        m_head = m_frames[m_next];
-        m_head.readyAt += m_startedAt;
+        // Its length is worked out only now: storing a schedule holds up the program.
+        const BusFrame& frame = m_frames[m_next];
+        m_head = makePending(frame, m_startedAt + frame.time);
     }
 }
 

@@ -3,7 +3,7 @@
 #include "modules/virtual/PendingFrame.h"
 
 #include <cstddef>
-#include <vector>
+#include <deque>
 
 namespace canvirtual {
 
@@ -14,12 +14,16 @@ namespace canvirtual {
 class SendSchedule
 {
 public:
-    static constexpr std::size_t capacity = 100'000;
+    /// Frames of a file of 32 MiB, and some 370 MB in memory.
+    static constexpr std::size_t usualCapacity = 4'194'304;
+
+    explicit SendSchedule(std::size_t capacity = usualCapacity) : m_capacity(capacity) {}
 
     /// Empties the memory, also while it is running, and opens it for `add`.
     void begin();
-    /// Stores `frame`, whose `readyAt` is the delay. False if the memory is not open or is full.
-    bool add(const PendingFrame& frame);
+    /// Stores `frame`, to go out `delay` after the start. False if the memory is not open or is
+    /// full.
+    bool add(const BusFrame& frame, BusTime delay);
     void end();
     void start(BusTime now);
     /// Empties and closes the memory.
@@ -39,7 +43,8 @@ public:
 private:
     void loadHead();
 
-    std::vector<PendingFrame> m_frames; ///< by delay from `start` on
+    std::deque<BusFrame> m_frames; ///< their times are the delays; by these from `start` on
+    std::size_t m_capacity;
     PendingFrame m_head;
     std::size_t m_next = 0;
     BusTime m_startedAt = 0;

@@ -58,17 +58,17 @@ VirtualBus::SendResult VirtualBus::send(BusPort& port, PendingFrame frame)
     return port.queue(frame) ? SendResult::Queued : SendResult::QueueFull;
 }
 
-VirtualBus::ScheduleResult VirtualBus::schedule(BusPort& port, const PendingFrame& frame)
+VirtualBus::ScheduleResult VirtualBus::schedule(BusPort& port, const BusFrame& frame, BusTime delay)
 {
+    // The bus need not be brought up to the present: nothing happens on it.
     const std::lock_guard<std::mutex> lock(m_mutex);
-    advance();
     if (port.isLost()) {
         return ScheduleResult::Lost;
     }
     if (!port.schedule().isOpen()) {
         return ScheduleResult::NotOpen;
     }
-    return port.schedule().add(frame) ? ScheduleResult::Stored : ScheduleResult::Full;
+    return port.schedule().add(frame, delay) ? ScheduleResult::Stored : ScheduleResult::Full;
 }
 
 bool VirtualBus::control(BusPort& port, zul::MessageCtrl::ECtrl control)

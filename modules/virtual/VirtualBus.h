@@ -57,8 +57,8 @@ public:
 
     enum class ScheduleResult { Stored, NotOpen, Full, Lost };
 
-    /// Stores `frame` in the port's schedule; its `readyAt` is the delay.
-    ScheduleResult schedule(BusPort& port, const PendingFrame& frame);
+    /// Stores `frame` in the port's schedule, to go out `delay` after its start.
+    ScheduleResult schedule(BusPort& port, const BusFrame& frame, BusTime delay);
     /// Carries out a control; false if it is unknown.
     bool control(BusPort& port, zul::MessageCtrl::ECtrl control);
 

@@ -121,13 +121,10 @@ bool VirtualDevice::sendFrame(const zul::MessageCan& message)
     if (!problem.empty()) {
         return fail(("Frame not sent: " + problem).c_str());
     }
-    PendingFrame frame = makePending(frameFromMessage(message), 0);
     if (message.cpmMode() != 0) {
-        const zul::MessageCan::TimeStamp delay = message.timeStamp();
-        frame.readyAt = delay.seconds * second + delay.nanoseconds;
-        return storeFrame(frame);
+        return storeFrame(message);
     }
-    switch (m_bus->send(*m_port, frame)) {
+    switch (m_bus->send(*m_port, makePending(frameFromMessage(message), 0))) {
     case VirtualBus::SendResult::Queued:
         return true;
     case VirtualBus::SendResult::QueueFull:
@@ -138,9 +135,11 @@ bool VirtualDevice::sendFrame(const zul::MessageCan& message)
     return fail("The device has been lost");
 }
 
-bool VirtualDevice::storeFrame(const PendingFrame& frame)
+bool VirtualDevice::storeFrame(const zul::MessageCan& message)
 {
-    switch (m_bus->schedule(*m_port, frame)) {
+    const zul::MessageCan::TimeStamp stamp = message.timeStamp();
+    const BusTime delay = stamp.seconds * second + stamp.nanoseconds;
+    switch (m_bus->schedule(*m_port, frameFromMessage(message), delay)) {
     case VirtualBus::ScheduleResult::Stored:
         return true;
     case VirtualBus::ScheduleResult::NotOpen:

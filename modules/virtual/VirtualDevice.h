@@ -52,7 +52,7 @@ public:
 
 private:
     bool sendFrame(const zul::MessageCan& message);
-    bool storeFrame(const PendingFrame& frame);
+    bool storeFrame(const zul::MessageCan& message);
     Message* refill();
     bool fail(const char* error);
     void dropBatch();

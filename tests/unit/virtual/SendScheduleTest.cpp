@@ -6,22 +6,22 @@ using namespace canvirtual;
 
 namespace {
 
-PendingFrame delayed(std::uint32_t id, BusTime delay)
+BusFrame frameOf(std::uint32_t id)
 {
     BusFrame frame;
     frame.id = id;
-    return makePending(frame, delay);
+    return frame;
 }
 
 TEST(SendSchedule, TakesFramesOnlyWhileOpen)
 {
     SendSchedule schedule;
-    EXPECT_FALSE(schedule.add(delayed(1, 0)));
+    EXPECT_FALSE(schedule.add(frameOf(1), 0));
     schedule.begin();
     EXPECT_TRUE(schedule.isOpen());
-    EXPECT_TRUE(schedule.add(delayed(1, 0)));
+    EXPECT_TRUE(schedule.add(frameOf(1), 0));
     schedule.end();
-    EXPECT_FALSE(schedule.add(delayed(2, 0)));
+    EXPECT_FALSE(schedule.add(frameOf(2), 0));
     EXPECT_EQ(schedule.left(), 1U);
     EXPECT_TRUE(schedule.head() == nullptr) << "not started";
 }
@@ -30,9 +30,9 @@ TEST(SendSchedule, EqualDelaysKeepTheirOrder)
 {
     SendSchedule schedule;
     schedule.begin();
-    schedule.add(delayed(1, 20));
-    schedule.add(delayed(2, 10));
-    schedule.add(delayed(3, 20));
+    schedule.add(frameOf(1), 20);
+    schedule.add(frameOf(2), 10);
+    schedule.add(frameOf(3), 20);
     schedule.start(1'000);
     for (const std::uint32_t id : {2U, 1U, 3U}) {
         const PendingFrame* head = schedule.head();
@@ -47,13 +47,19 @@ TEST(SendSchedule, EqualDelaysKeepTheirOrder)
 
 TEST(SendSchedule, FullMemoryRefuses)
 {
-    SendSchedule schedule;
+    constexpr std::size_t capacity = 5;
+    SendSchedule schedule(capacity);
     schedule.begin();
-    for (std::size_t count = 0; count < SendSchedule::capacity; ++count) {
-        ASSERT_TRUE(schedule.add(delayed(1, 0)));
+    for (std::size_t count = 0; count < capacity; ++count) {
+        ASSERT_TRUE(schedule.add(frameOf(1), 0));
     }
-    EXPECT_FALSE(schedule.add(delayed(1, 0)));
-    EXPECT_EQ(schedule.left(), SendSchedule::capacity);
+    EXPECT_FALSE(schedule.add(frameOf(1), 0));
+    EXPECT_EQ(schedule.left(), capacity);
+}
+
+TEST(SendSchedule, HoldsTheFramesOfSixteenMebibytes)
+{
+    EXPECT_GT(SendSchedule::usualCapacity, 16U * 1024 * 1024 / 8 + 1);
 }
 
 TEST(SendSchedule, StartOfAnEmptyMemoryDoesNothing)
