@@ -22,7 +22,7 @@ bool WidgetGraph::isPossible()
 }
 
 WidgetGraph::WidgetGraph(QWidget* parent)
-    : QGLWidget(parent), m_player(gui::GlyphTexture::scopeFont())
+    : QGLWidget(parent), m_timer(this), m_player(gui::GlyphTexture::scopeFont())
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
