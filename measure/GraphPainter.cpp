@@ -42,12 +42,14 @@ public:
 
     void add(const GraphPlace& place)
     {
-        if (m_hasLast && !(isNear(m_last) && isNear(place))) {
+        const bool isPlaceNear = isNear(place);
+        if (m_hasLast && !(m_isLastNear && isPlaceNear)) {
             addCut(place);
-        } else if (isNear(place)) {
+        } else if (isPlaceNear) {
             addPoint(place);
         }
         m_last = place;
+        m_isLastNear = isPlaceNear;
         m_hasLast = true;
     }
 
@@ -72,7 +74,7 @@ private:
         if (!cutSegment(from, to)) {
             return;
         }
-        if (!isNear(m_last)) {
+        if (!m_isLastNear) {
             addPoint(from);
         }
         addPoint(to);
@@ -82,6 +84,7 @@ private:
     const GraphItem& m_line;
     std::size_t m_first;
     GraphPlace m_last;
+    bool m_isLastNear = false;
     bool m_hasLast = false;
 };
 

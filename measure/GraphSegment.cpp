@@ -28,11 +28,6 @@ bool isBeyond(const GraphPlace& from, const GraphPlace& to, Coordinate along)
 
 } // namespace
 
-bool isNear(const GraphPlace& place)
-{
-    return std::fabs(place.x) <= farthestPixel && std::fabs(place.y) <= farthestPixel;
-}
-
 bool cutSegment(GraphPlace& from, GraphPlace& to)
 {
     for (const auto& [along, across] :

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 /// A place in pixels that may lie anywhere, screens away too.
 struct GraphPlace
 {
@@ -11,7 +13,10 @@ struct GraphPlace
 /// enough for single precision to tell hundredths of a pixel.
 inline constexpr double farthestPixel = 1e5;
 
-bool isNear(const GraphPlace& place);
+inline bool isNear(const GraphPlace& place)
+{
+    return std::fabs(place.x) <= farthestPixel && std::fabs(place.y) <= farthestPixel;
+}
 
 /// Cuts a line at `farthestPixel`, so that what is left lies where the whole line does, however
 /// far its ends are. Neither coordinate is beyond 1e100 in amount.
