@@ -11,7 +11,6 @@ namespace gui {
 
 namespace {
 
-constexpr double gain = 0.3;
 constexpr QColor barColor(100, 200, 100);
 
 } // namespace
@@ -34,7 +33,7 @@ void QwtBarItem::setValue(double rate, std::uint32_t maximum)
 {
     const double now = zul::wallClock();
     double state = m_rate;
-    zul::lowPass(rate, gain, now - m_lastTime, state);
+    zul::lowPass(rate, zul::measuredGain, now - m_lastTime, state);
     m_lastTime = now;
     showValues(state, maximum);
 }

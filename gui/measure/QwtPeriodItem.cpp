@@ -9,7 +9,6 @@ namespace gui {
 
 namespace {
 
-constexpr double gain = 0.3;
 constexpr QColor bandColor(200, 200, 0);
 constexpr QColor lineColor(200, 0, 0);
 constexpr QColor borderColor(200, 200, 200);
@@ -44,7 +43,7 @@ void QwtPeriodItem::setPeriod(double period, double minimum, double maximum, dou
     const int lineBefore = band().line;
     const bool isOther =
         period != m_period || minimum != m_minimum || maximum != m_maximum || scale != m_scale;
-    zul::lowPass(period, gain, now - m_lastWall, m_filtered);
+    zul::lowPass(period, zul::measuredGain, now - m_lastWall, m_filtered);
     m_lastWall = now;
     m_period = period;
     m_minimum = minimum;

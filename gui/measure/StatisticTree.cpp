@@ -16,7 +16,6 @@ namespace {
 
 constexpr std::array<int, StatisticTree::columnTotal> columnWidths{60, 80, 120};
 constexpr QSize markerSize(16, 14);
-constexpr int boldWeight = 75;
 constexpr int cellMargins = 8;
 constexpr std::uint32_t smoothedFrom = 3; // frames
 
