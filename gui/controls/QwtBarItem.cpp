@@ -2,6 +2,7 @@
 
 #include "core/Clock.h"
 #include "core/LowPass.h"
+#include "gui/controls/Colors.h"
 
 #include <QPainter>
 
@@ -67,6 +68,7 @@ void QwtBarItem::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), m_background);
     const Shown values = shown();
     painter.fillRect(0, 0, values.barWidth, height(), barColor);
+    painter.setPen(colors::normalText);
     painter.drawText(rect(), Qt::AlignCenter, values.text);
 }
 

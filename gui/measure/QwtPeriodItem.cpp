@@ -2,6 +2,7 @@
 
 #include "core/Clock.h"
 #include "core/LowPass.h"
+#include "gui/controls/Colors.h"
 
 #include <QPainter>
 
@@ -66,6 +67,7 @@ void QwtPeriodItem::paintEvent(QPaintEvent*)
     const PeriodBand shown = band();
     painter.fillRect(shown.left, 0, shown.width, height(), bandColor);
     painter.fillRect(shown.line, 0, 1, height(), lineColor);
+    painter.setPen(colors::normalText);
     painter.drawText(rect(), Qt::AlignCenter, periodText(m_minimum, m_period, m_maximum));
     painter.setPen(borderColor);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
