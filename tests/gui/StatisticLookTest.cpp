@@ -23,6 +23,7 @@
 #include <QHeaderView>
 #include <QMetaMethod>
 #include <QPointer>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTest>
@@ -418,6 +419,27 @@ TEST_F(StatisticLife, TensOfThousandsOfRowsComeAndGo)
     QTest::mouseClick(m_dialog->findChild<QWidget*>(QStringLiteral("clear")), Qt::LeftButton);
     EXPECT_EQ(m_tree->topLevelItemCount(), 0);
     EXPECT_LT(timer.elapsed(), 20'000) << "it grows with the number of rows, not with its square";
+}
+
+TEST_F(StatisticLife, LeafingThroughManyRowsKeepsFewCells)
+{
+    std::vector<std::pair<std::uint32_t, double>> frames;
+    for (std::uint32_t id = 0; id < 2'000; ++id) {
+        frames.emplace_back(id, 50.0);
+    }
+    feed(0.05, frames);
+    feed(0.05, {});
+    QScrollBar* bar = m_tree->verticalScrollBar();
+    while (bar->value() < bar->maximum()) {
+        bar->setValue(bar->value() + bar->pageStep());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    feed(0.05, frames);
+    EXPECT_LE(m_tree->findChildren<gui::QwtBarItem*>().size(), 500);
+    bar->setValue(0);
+    auto* cell = qobject_cast<gui::QwtBarItem*>(m_tree->itemWidget(m_tree->topLevelItem(0), 2));
+    ASSERT_NE(cell, nullptr) << "a row has its cell again when it comes back";
+    EXPECT_NEAR(cell->rate(), 2.0, 1e-6) << "and need not rise from 0";
 }
 
 TEST_F(StatisticLife, TinyWindowIsDrawn)
