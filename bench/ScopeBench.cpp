@@ -6,6 +6,7 @@
 #include "measure/GraphColumns.h"
 
 #include <QApplication>
+#include <QWindow>
 #include <qopengl.h>
 
 #include <cmath>
@@ -141,7 +142,9 @@ void showPlot(Widget& widget)
 {
     widget.resize(plotWidth, plotHeight);
     widget.show();
-    QApplication::processEvents();
+    while (!widget.windowHandle()->isExposed()) { // what is not seen is not painted
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     if (!widget.isValid()) {
         qFatal("no OpenGL");
     }

@@ -2,6 +2,9 @@
 
 namespace zul {
 
+/// The gain of the rates and periods that windows measure.
+inline constexpr double measuredGain = 0.3;
+
 /// One step of the program's first-order smoothing, weighted by wall-clock time.
 ///
 /// With w = min(1, `dt`) and gain k the state becomes (k * state + sample * w) / (k + w): after a

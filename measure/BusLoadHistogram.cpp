@@ -1,13 +1,8 @@
 #include "measure/BusLoadHistogram.h"
 
+#include "measure/Milliseconds.h"
+
 #include <algorithm>
-
-namespace {
-
-constexpr double msPerSecond = 1000.0;
-constexpr double secondsPerMs = 0.001;
-
-} // namespace
 
 void BusLoadHistogram::add(double time)
 {

@@ -3,11 +3,14 @@
 #include "measure/DialDigits.h"
 
 #include <algorithm>
+#include <cmath>
 
 double dialShare(double value, double minimum, double maximum)
 {
-    const double above = value - minimum;
-    const double length = maximum - minimum;
+    // The length of a scale of all numbers is not one of them: it is measured in halves.
+    const double unit = std::isfinite(maximum - minimum) ? 1.0 : 0.5;
+    const double above = value * unit - minimum * unit;
+    const double length = maximum * unit - minimum * unit;
     if (length == 0.0) {
         return above > 0.0 ? 1.0 : 0.0;
     }

@@ -53,6 +53,7 @@ struct GraphChannel
 
     std::deque<GraphSample> samples;
     std::deque<GraphColumn> columns; ///< of `samples`, for the shown time range
+    bool hasOldColumns = false;      ///< the clock went back since they were made
     bool visible = false;            ///< drawn, listed and counted
     bool fresh = false;              ///< a value came since the time was set last
     double current = 0.0;            ///< the value that came last

@@ -84,6 +84,7 @@ void addToColumns(GraphChannel& channel, const GraphSample& sample, double pixel
 void clearColumns(GraphChannel& channel)
 {
     channel.columns.clear();
+    channel.hasOldColumns = false;
     forgetSettled(channel);
 }
 

@@ -11,6 +11,7 @@
 /// `xMin` if there is one, else it joins the last column.
 void addToColumns(GraphChannel& channel, const GraphSample& sample, double pixelTime, double xMin);
 
+/// Leaves none.
 void clearColumns(GraphChannel& channel);
 
 /// Makes the columns anew from the samples of the time range, with one sample before it and one

@@ -1,6 +1,7 @@
 #include "measure/GraphEngine.h"
 
 #include "measure/GraphColumns.h"
+#include "measure/GraphLook.h"
 #include "measure/GraphPainter.h"
 #include "measure/GraphScales.h"
 
@@ -22,7 +23,8 @@ constexpr double leastAutoSpan = 0.001;
 constexpr double autoMargin = 0.1; // of the span, on either side
 constexpr double plotBottom = 40.0;
 constexpr double heightAroundPlot = 50.0;
-constexpr double labelGap = 20.0; // between value labels and plot, with the ticks
+// Left of the plot stand its ticks and their labels, and left of these a margin.
+constexpr double leftOfPlot = static_cast<double>(graphLook::labelGap) + 5.0;
 constexpr double rightMargin = 10.0;
 
 void scaleToSeen(GraphChannel& channel)
@@ -91,6 +93,7 @@ void GraphEngine::setCurrentTime(double time)
     if (m_state.now > time) {
         for (GraphChannel& channel : m_state.channels) {
             channel.samples.clear();
+            channel.hasOldColumns = true;
         }
         rebuild();
     }
@@ -208,6 +211,9 @@ void GraphEngine::setParameterVisible(std::uint32_t channel, bool on)
 {
     if (GraphChannel* target = find(channel)) {
         target->visible = on;
+        if (target->hasOldColumns) {
+            rebuild(*target); // they may lie right of the time
+        }
     }
 }
 
@@ -410,7 +416,7 @@ void GraphEngine::paint(const GraphTextMetrics& metrics, GraphDrawing& drawing)
     painter.paint();
     m_state.labelWidth = painter.labelWidth();
     const bool hadWidth = m_state.plotWidth > 0.0;
-    m_state.plotLeft = m_state.labelWidth + labelGap;
+    m_state.plotLeft = m_state.labelWidth + leftOfPlot;
     m_state.plotWidth = m_width - m_state.plotLeft - rightMargin;
     if (!hadWidth && m_state.plotWidth > 0.0) {
         rebuild(); // without a width, all samples fell into one column

@@ -10,8 +10,8 @@
 /// cursor. It knows neither frames nor screens: it is told the time, values and mouse positions,
 /// and gives the picture as a list.
 ///
-/// An operation on a channel that does not exist does nothing, nor does one with a time or range
-/// that is no number.
+/// An operation on a channel that does not exist does nothing, nor does one with a time that is no
+/// finite number, or with so many seconds of range.
 class GraphEngine
 {
 public:
@@ -43,6 +43,7 @@ public:
     void setGridColor(float red, float green, float blue);
     void setLabelColor(float red, float green, float blue);
     void setBackColor(float red, float green, float blue);
+    /// Deliberate: asks for no repaint.
     void setParameterVisible(std::uint32_t channel, bool on);
     void setParameterColor(std::uint32_t channel, float red, float green, float blue);
     /// Both in Latin-1.
@@ -50,6 +51,9 @@ public:
                             const std::string& unit);
     void setParameterShowSamples(std::uint32_t channel, bool on);
     void setParameterAutoScale(std::uint32_t channel, bool on);
+    /// The range of a channel without auto-scale. One with an end that is no finite number is
+    /// stored as any other; the channel is then drawn without axis and trace.
+    ///
     /// Deliberate: rebuilds no columns, as `setParameterYMax` does.
     void setParameterYMin(std::uint32_t channel, float yMin);
     void setParameterYMax(std::uint32_t channel, float yMax);

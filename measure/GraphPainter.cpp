@@ -1,5 +1,6 @@
 #include "measure/GraphPainter.h"
 
+#include "measure/GraphLook.h"
 #include "measure/GraphScales.h"
 
 #include <algorithm>
@@ -7,14 +8,14 @@
 
 namespace {
 
-constexpr float majorTick = 10.0F; // pixels
-constexpr float minorTick = 5.0F;
-constexpr float timeLabelGap = 15.0F;  // below the plot, above the text
-constexpr float valueLabelGap = 15.0F; // left of the plot, right of the text
-constexpr float baseLine = 0.4F;       // of the text's height, below the middle of its tick
+using graphLook::labelGap;
+using graphLook::majorTick;
+using graphLook::minorTick;
+using graphLook::white;
+
+constexpr float baseLine = 0.4F; // of the text's height, below the middle of its tick
 constexpr float sampleDot = 3.0F;
 constexpr float stripLine = 2.0F;
-constexpr GraphColor white{1.0F, 1.0F, 1.0F};
 constexpr GraphColor stripColor{0.5F, 0.5F, 0.5F};
 constexpr GraphColor markerColor{1.0F, 1.0F, 0.0F, 0.3F};
 
@@ -28,6 +29,64 @@ GraphScissor scissorOf(const GraphState& state, const GraphChannel& channel)
     scissor.height = std::max(zul::truncated(channel.bandHeight), 0);
     return scissor;
 }
+
+/// A line that grows point by point, and is cut where it leaves what a picture can reach. Since
+/// times never descend, a line that goes out and comes back touches nothing in between.
+class TraceLine
+{
+public:
+    TraceLine(GraphDrawing& drawing, const GraphItem& line)
+        : m_drawing(drawing), m_line(line), m_first(drawing.pointCount())
+    {
+    }
+
+    void add(const GraphPlace& place)
+    {
+        const bool isPlaceNear = isNear(place);
+        if (m_hasLast && !(m_isLastNear && isPlaceNear)) {
+            addCut(place);
+        } else if (isPlaceNear) {
+            addPoint(place);
+        }
+        m_last = place;
+        m_isLastNear = isPlaceNear;
+        m_hasLast = true;
+    }
+
+    /// What comes next is another line.
+    void end()
+    {
+        m_drawing.addShape(m_line, m_first);
+        m_first = m_drawing.pointCount();
+        m_hasLast = false;
+    }
+
+private:
+    void addPoint(const GraphPlace& place)
+    {
+        m_drawing.addPoint({static_cast<float>(place.x), static_cast<float>(place.y)});
+    }
+
+    void addCut(const GraphPlace& place)
+    {
+        GraphPlace from = m_last;
+        GraphPlace to = place;
+        if (!cutSegment(from, to)) {
+            return;
+        }
+        if (!m_isLastNear) {
+            addPoint(from);
+        }
+        addPoint(to);
+    }
+
+    GraphDrawing& m_drawing;
+    const GraphItem& m_line;
+    std::size_t m_first;
+    GraphPlace m_last;
+    bool m_isLastNear = false;
+    bool m_hasLast = false;
+};
 
 } // namespace
 
@@ -87,7 +146,7 @@ void GraphPainter::paintTimeTick(double tick)
     const std::string label = timeLabel(tick);
     if (!label.empty()) {
         const float half = static_cast<float>(m_metrics.width(label)) / 2.0F;
-        const float y = bottom() - timeLabelGap - static_cast<float>(m_metrics.height());
+        const float y = bottom() - labelGap - static_cast<float>(m_metrics.height());
         m_drawing.addText(m_state.labelColor, {x - half, y}, label);
     }
     if (m_state.gridOn) {
@@ -122,7 +181,7 @@ void GraphPainter::paintValueTick(double y, const std::string& label, const Grap
     const int width = m_metrics.width(label);
     m_labelWidth = std::max(m_labelWidth, width);
     m_drawing.addText(color,
-                      {left() - valueLabelGap - static_cast<float>(width),
+                      {left() - labelGap - static_cast<float>(width),
                        pixel - static_cast<float>(m_metrics.height()) * baseLine},
                       label);
     if (m_state.gridOn) {
@@ -154,23 +213,22 @@ void GraphPainter::paintTrace(const GraphChannel& channel)
 void GraphPainter::addTracePoints(const GraphChannel& channel, const GraphItem& line)
 {
     const GraphScale values = valueScale(channel);
-    std::size_t first = m_drawing.pointCount();
+    TraceLine trace(m_drawing, line);
     for (const GraphColumn& column : channel.columns) {
-        const auto x = static_cast<float>(m_time.toPixel(column.time));
+        const double x = m_time.toFarPixel(column.time);
         for (std::uint32_t i = 0; i < column.count; ++i) {
             const double value = column.values[i];
             if (std::isfinite(value)) {
-                m_drawing.addPoint({x, static_cast<float>(values.toPixel(value))});
-                continue;
+                trace.add({x, values.toFarPixel(value)});
+            } else {
+                trace.end(); // the line has a gap where there is no number
             }
-            m_drawing.addShape(line, first); // the line has a gap where there is no number
-            first = m_drawing.pointCount();
         }
         if (column.time > m_time.upper) {
             break; // the line has left the plot
         }
     }
-    m_drawing.addShape(line, first);
+    trace.end();
 }
 
 void GraphPainter::paintMarker()

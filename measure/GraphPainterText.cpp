@@ -1,6 +1,7 @@
 // The texts over the plot: those of the cursor, and the legend.
 
 #include "measure/GraphColumns.h"
+#include "measure/GraphLook.h"
 #include "measure/GraphPainter.h"
 #include "measure/GraphScales.h"
 
@@ -10,7 +11,9 @@
 
 namespace {
 
-constexpr float gap = 5.0F; // between a text and what it stands at, pixels
+using graphLook::textGap;
+using graphLook::white;
+
 constexpr std::size_t maxNumber = 64;
 
 constexpr int timeDecimals = 1;
@@ -29,8 +32,8 @@ std::string number(double value, int decimals)
 
 void GraphPainter::paintCursorTexts(double x, double y)
 {
-    const auto left = static_cast<float>(x) + gap;
-    m_drawing.addText({1.0F, 1.0F, 1.0F}, {left, static_cast<float>(y) + gap},
+    const auto left = static_cast<float>(x) + textGap;
+    m_drawing.addText(white, {left, static_cast<float>(y) + textGap},
                       number(m_state.cursorX, timeDecimals) + '/' +
                           number(m_state.cursorY, cursorDecimals));
     for (const GraphChannel& channel : m_state.channels) {
@@ -49,14 +52,14 @@ void GraphPainter::paintCursorTexts(double x, double y)
 void GraphPainter::paintLegend()
 {
     const auto height = static_cast<float>(m_metrics.height());
-    float pitch = height + gap;
+    float pitch = height + textGap;
     if (m_state.isSplit() && m_state.visibleCount > 0) {
         pitch = static_cast<float>(m_state.plotHeight / m_state.visibleCount);
     }
-    float y = top() - height - gap;
+    float y = top() - height - textGap;
     for (const GraphChannel& channel : m_state.channels) {
         if (channel.visible) {
-            m_drawing.addText(channel.color, {left() + gap, y},
+            m_drawing.addText(channel.color, {left() + textGap, y},
                               channel.name + "   " + number(channel.current, legendDecimals) +
                                   " [" + channel.unit + ']');
             y -= pitch;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "measure/GraphSegment.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -20,11 +22,16 @@ struct GraphScale
         return lower != upper && std::isfinite(upper - lower) && std::isfinite(perUnit);
     }
 
-    /// The pixel of a value of a drawable range, held to what a picture can reach: beyond some
-    /// hundreds of screens lines look alike.
+    /// The pixel of a value of a drawable range, held to `farthestPixel`.
     double toPixel(double value) const
     {
-        constexpr double farOutside = 1e6;
+        return std::clamp(toFarPixel(value), -farthestPixel, farthestPixel);
+    }
+
+    /// The same where it is, so that a line keeps its slope; beyond 1e100 all lie alike.
+    double toFarPixel(double value) const
+    {
+        constexpr double farOutside = 1e100;
         return std::clamp(length / (upper - lower) * (value - lower) + start, -farOutside,
                           farOutside);
     }

@@ -3,13 +3,15 @@
 #include "measure/GraphScale.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <limits>
 
 namespace {
 
-constexpr std::size_t maxLabelLength = 16;
+// More would leave no room for the plot.
+constexpr std::size_t maxLabelLength = 40;
 // Never reached by the steps that `niceStep` finds: an axis has a tick for each pixel at most.
 constexpr int maxTicks = 20'000;
 // The ends of a range come from single-precision numbers: a tick this part of a step beyond counts
@@ -146,7 +148,10 @@ std::string valueLabel(double tick, int decimals)
     std::array<char, maxLabelLength + 1> text{};
     const int length = std::snprintf(text.data(), text.size(), "%.*f", decimals, tick);
     if (length < 0 || static_cast<std::size_t>(length) >= text.size()) {
-        std::snprintf(text.data(), text.size(), "%.6g", tick);
+        // The fewest digits that tell it from all other numbers, its neighbours on the axis
+        // included.
+        const auto end = std::to_chars(text.data(), text.data() + maxLabelLength, tick).ptr;
+        *end = '\0';
     }
     return text.data();
 }

@@ -42,5 +42,6 @@ std::string timeLabel(double tick);
 
 /// Decimals of the labels of a value axis.
 int valueDecimals(float step);
-/// The label of a tick with so many decimals; a number of too many digits is written short.
+/// The label of a tick with so many decimals. One of more than 40 letters is written with a power
+/// of ten, and as many digits as tell it from all others.
 std::string valueLabel(double tick, int decimals);

@@ -1,5 +1,7 @@
 #include "measure/HistogramPlot.h"
 
+#include "measure/Milliseconds.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -9,6 +11,7 @@ namespace {
 constexpr PlotColor blockColor{0, 0, 180};
 constexpr PlotColor curveColor{0, 200, 0};
 constexpr PlotColor peakColor{255, 0, 0};
+constexpr PlotColor textColor{0, 0, 0};
 constexpr PlotColor axisColor{0, 0, 0};
 constexpr PlotColor gridColor{220, 220, 220};
 constexpr PlotColor topLineColor{150, 150, 150};
@@ -133,6 +136,55 @@ std::vector<Peak> peaksOf(const PlotFrame& frame, const HistogramBuckets& bucket
     return peaks;
 }
 
+void addBlocks(PlotItems& items, const PlotFrame& frame, const HistogramBuckets& buckets,
+               const HistogramSpacing& spacing)
+{
+    const int width = static_cast<int>(frame.span(spacing.width) + 1.0);
+    std::optional<PlotRectangle> block;
+    for (const auto& [key, count] : buckets) {
+        const std::optional<double> place = placeOf(frame, key, spacing);
+        if (!place) {
+            continue;
+        }
+        const int begin = static_cast<int>(std::lround(*place - width / 2.0));
+        const int left = std::max(begin, PlotFrame::left - axisGap);
+        const int right = std::min(begin + width, frame.widgetWidth());
+        if (right <= left) {
+            continue;
+        }
+        const int top = static_cast<int>(std::lround(frame.y(count)));
+        if (block && block->left == left) {
+            block->top = std::min(block->top, top);
+            block->width = std::max(block->width, right - left);
+            block->height = frame.base() - block->top;
+            continue;
+        }
+        if (block) {
+            items.emplace_back(*block);
+        }
+        block = PlotRectangle{blockColor, left, top, right - left, frame.base() - top};
+    }
+    if (block) {
+        items.emplace_back(*block);
+    }
+}
+
+void addPeaks(PlotItems& items, const PlotFrame& frame, const HistogramBuckets& buckets,
+              const HistogramSpacing& spacing)
+{
+    const Peak* before = nullptr;
+    const std::vector<Peak> peaks = peaksOf(frame, buckets, spacing);
+    for (const Peak& peak : peaks) {
+        const double y = frame.y(peak.count);
+        if (before != nullptr) {
+            items.emplace_back(PlotLine{
+                curveColor, {before->x, frame.y(before->count)}, {peak.x, y}, curveWidth, true});
+        }
+        items.push_back(lineOf(peakColor, peak.x, frame.base(), peak.x, y));
+        before = &peak;
+    }
+}
+
 double bounded(double place)
 {
     if (std::isnan(place)) {
@@ -173,49 +225,13 @@ double PlotFrame::y(std::uint32_t count) const
     return m_base - share * m_height;
 }
 
-void addBlocks(PlotItems& items, const PlotFrame& frame, const HistogramBuckets& buckets,
-               const HistogramSpacing& spacing)
+void addGraph(PlotItems& items, const PlotFrame& frame, HistogramMode mode,
+              const HistogramBuckets& buckets, const HistogramSpacing& spacing)
 {
-    const int width = static_cast<int>(frame.span(spacing.width) + 1.0);
-    std::optional<PlotRectangle> block;
-    for (const auto& [key, count] : buckets) {
-        const std::optional<double> place = placeOf(frame, key, spacing);
-        if (!place) {
-            continue;
-        }
-        const int begin = static_cast<int>(std::lround(*place - width / 2.0));
-        const int left = std::max(begin, PlotFrame::left - axisGap);
-        const int right = std::max(std::min(begin + width, frame.widgetWidth()), left);
-        const int top = static_cast<int>(std::lround(frame.y(count)));
-        if (block && block->left == left) {
-            block->top = std::min(block->top, top);
-            block->width = std::max(block->width, right - left);
-            block->height = frame.base() - block->top;
-            continue;
-        }
-        if (block) {
-            items.emplace_back(*block);
-        }
-        block = PlotRectangle{blockColor, left, top, right - left, frame.base() - top};
-    }
-    if (block) {
-        items.emplace_back(*block);
-    }
-}
-
-void addPeaks(PlotItems& items, const PlotFrame& frame, const HistogramBuckets& buckets,
-              const HistogramSpacing& spacing)
-{
-    const Peak* before = nullptr;
-    const std::vector<Peak> peaks = peaksOf(frame, buckets, spacing);
-    for (const Peak& peak : peaks) {
-        const double y = frame.y(peak.count);
-        if (before != nullptr) {
-            items.emplace_back(PlotLine{
-                curveColor, {before->x, frame.y(before->count)}, {peak.x, y}, curveWidth, true});
-        }
-        items.push_back(lineOf(peakColor, peak.x, frame.base(), peak.x, y));
-        before = &peak;
+    if (mode == HistogramMode::BlockGraph) {
+        addBlocks(items, frame, buckets, spacing);
+    } else {
+        addPeaks(items, frame, buckets, spacing);
     }
 }
 
@@ -230,10 +246,10 @@ void addAxes(PlotItems& items, const PlotFrame& frame, const char* verticalName)
     items.push_back(arrowAt(axisColor, arrowRight, frame.base(), Direction::Right));
     constexpr int verticalNameRight = 5;
     constexpr int horizontalNameBelow = 15;
-    items.push_back(textAt(plotText, PlotFrame::left + verticalNameRight, arrowTop,
+    items.push_back(textAt(textColor, PlotFrame::left + verticalNameRight, arrowTop,
                            QLatin1String(verticalName)));
     items.push_back(
-        textAt(plotText, arrowRight, frame.base() + horizontalNameBelow, QStringLiteral("T")));
+        textAt(textColor, arrowRight, frame.base() + horizontalNameBelow, QStringLiteral("T")));
 }
 
 void addGrid(PlotItems& items, const PlotFrame& frame)
@@ -274,16 +290,24 @@ void addLastMark(PlotItems& items, const PlotFrame& frame, double x)
     }
 }
 
+void addPeakText(PlotItems& items, const PlotFrame& frame, PeakText place, const QString& text)
+{
+    constexpr int leftOfPlot = 70;
+    constexpr int fromLine = 8;
+    const int y = frame.top() + (place == PeakText::AboveLine ? -fromLine : fromLine);
+    items.push_back(textAt(textColor, PlotFrame::left - leftOfPlot, y, text));
+}
+
 void addSummary(PlotItems& items, int y, const char* label, const QString& value)
 {
     constexpr int labelLeft = 30;
     constexpr int valueLeft = 140;
-    items.push_back(textAt(plotText, labelLeft, y, QLatin1String(label)));
-    items.push_back(textAt(plotText, valueLeft, y, QStringLiteral(": ") + value));
+    items.push_back(textAt(textColor, labelLeft, y, QLatin1String(label)));
+    items.push_back(textAt(textColor, valueLeft, y, QStringLiteral(": ") + value));
 }
 
-QString msText(double seconds)
+void addTotal(PlotItems& items, std::uint32_t count)
 {
-    constexpr double msPerSecond = 1000.0;
-    return QString::asprintf("%.3f ms", seconds * msPerSecond);
+    constexpr int totalLine = 95; // base line
+    addSummary(items, totalLine, "Total Messages", QString::asprintf("%u", count));
 }

@@ -54,15 +54,17 @@ struct HistogramSpacing
     double width; ///< of a slot, seconds
 };
 
-/// Blocks from the base to the count of each slot, centred on it, and cut at the vertical axis and
-/// at the widget's right edge. Slots whose blocks have the same pixels share one.
-void addBlocks(PlotItems& items, const PlotFrame& frame, const HistogramBuckets& buckets,
-               const HistogramSpacing& spacing);
-
-/// For each slot a smooth line to the top of the one before, and a vertical line from the base. Of
-/// slots that share a pixel only the first, the lowest, the highest and the last are drawn.
-void addPeaks(PlotItems& items, const PlotFrame& frame, const HistogramBuckets& buckets,
-              const HistogramSpacing& spacing);
+/// The slots of a histogram.
+///
+/// Block graph: blocks from the base to the count of each slot, centred on it, and cut at the
+/// vertical axis and at the widget's right edge; what would lie wholly beyond these is left out.
+/// Slots whose blocks have the same pixels share one.
+///
+/// Line graph: for each slot a smooth line to the top of the one before, and a vertical line from
+/// the base. Of slots that share a pixel only the first, the lowest, the highest and the last are
+/// drawn.
+void addGraph(PlotItems& items, const PlotFrame& frame, HistogramMode mode,
+              const HistogramBuckets& buckets, const HistogramSpacing& spacing);
 
 /// Axes with their arrow heads and names.
 void addAxes(PlotItems& items, const PlotFrame& frame, const char* verticalName);
@@ -88,12 +90,12 @@ void addMark(PlotItems& items, const PlotFrame& frame, const PlotMark& mark, dou
 /// A red arrow head on the base.
 void addLastMark(PlotItems& items, const PlotFrame& frame, double x);
 
+/// A text beside the top of the scale.
+enum class PeakText { AboveLine, BelowLine };
+void addPeakText(PlotItems& items, const PlotFrame& frame, PeakText place, const QString& text);
+
 /// A line of the summary: a label and what it says.
 void addSummary(PlotItems& items, int y, const char* label, const QString& value);
 
-/// "%.3f ms" of seconds.
-QString msText(double seconds);
-
-inline constexpr PlotColor plotText{0, 0, 0};
-inline constexpr int peakTextLeft = 70; ///< of the texts at the top of the scale, left of the plot
-inline constexpr int peakTextAside = 8; ///< above the line, and below it
+/// The summary's last line.
+void addTotal(PlotItems& items, std::uint32_t count);

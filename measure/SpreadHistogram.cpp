@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr double gain = 0.3;
 // In single precision, as it is added to periods.
 constexpr auto margin = static_cast<float>(SpreadHistogram::resolutionSeconds * 0.6);
 
@@ -26,7 +25,7 @@ void SpreadHistogram::add(double time, double now)
                                                   static_cast<double>(bucketsPerSecond));
     m_maxCount = std::max(m_maxCount, countInBucket(m_buckets, key));
     widen(period, key);
-    zul::lowPass(period, gain, wallStep, m_filtered);
+    zul::lowPass(period, zul::measuredGain, wallStep, m_filtered);
     m_sum += period;
     m_last = period;
     m_average = m_sum / m_count;

@@ -1,35 +1,30 @@
 #include "measure/SpreadPlot.h"
 
+#include "measure/Milliseconds.h"
 #include "measure/SpreadHistogram.h"
 
 namespace {
 
-constexpr double msPerSecond = 1000.0;
 constexpr double percent = 100.0;
 constexpr HistogramSpacing spreadSpacing{static_cast<double>(SpreadHistogram::bucketsPerSecond),
                                          SpreadHistogram::resolutionSeconds};
 
-// Base lines of the summary's lines.
+// Base lines of the summary's lines; the total stands below them.
 enum SummaryLine {
     AverageLine = 20,
     TotalAverageLine = 35,
     MinimumLine = 50,
     MaximumLine = 65,
-    JitterLine = 80,
-    TotalLine = 95
+    JitterLine = 80
 };
 
-void addScaleTexts(PlotItems& items, const PlotFrame& frame, const SpreadHistogram& histogram)
+void addPeakTexts(PlotItems& items, const PlotFrame& frame, const SpreadHistogram& histogram)
 {
-    constexpr int left = PlotFrame::left - peakTextLeft;
-    const auto add = [&](int y, const QString& text) {
-        items.emplace_back(
-            PlotText{plotText, {static_cast<double>(left), static_cast<double>(y)}, text});
-    };
-    add(frame.top() - peakTextAside, QString::asprintf("%u", histogram.maxCount()));
+    addPeakText(items, frame, PeakText::AboveLine, QString::asprintf("%u", histogram.maxCount()));
     if (histogram.count() != 0) {
         const double share = static_cast<double>(histogram.maxCount()) / histogram.count();
-        add(frame.top() + peakTextAside, QString::asprintf("%.2f %%", share * percent));
+        addPeakText(items, frame, PeakText::BelowLine,
+                    QString::asprintf("%.2f %%", share * percent));
     }
 }
 
@@ -48,7 +43,7 @@ void addSummaries(PlotItems& items, const SpreadHistogram& histogram)
     addSummary(items, JitterLine, "Jitter",
                msText(jitter) +
                    QString::asprintf(" (%.3f / %+.3f)", below * msPerSecond, above * msPerSecond));
-    addSummary(items, TotalLine, "Total Messages", QString::asprintf("%u", histogram.count()));
+    addTotal(items, histogram.count());
 }
 
 } // namespace
@@ -57,11 +52,7 @@ PlotItems spreadPlot(const SpreadHistogram& histogram, HistogramMode mode, PlotS
 {
     const PlotFrame frame(size, histogram.lowest(), histogram.highest(), histogram.maxCount());
     PlotItems items;
-    if (mode == HistogramMode::BlockGraph) {
-        addBlocks(items, frame, histogram.buckets(), spreadSpacing);
-    } else {
-        addPeaks(items, frame, histogram.buckets(), spreadSpacing);
-    }
+    addGraph(items, frame, mode, histogram.buckets(), spreadSpacing);
     addAxes(items, frame, "Msg Total");
     addGrid(items, frame);
     addMark(items, frame, rangeMark, PlotFrame::left, histogram.lowest());
@@ -70,7 +61,7 @@ PlotItems spreadPlot(const SpreadHistogram& histogram, HistogramMode mode, PlotS
     addMark(items, frame, averageMark, frame.x(histogram.average()), histogram.average());
     addLastMark(items, frame, frame.x(histogram.last()));
     addTopLine(items, frame);
-    addScaleTexts(items, frame, histogram);
+    addPeakTexts(items, frame, histogram);
     addSummaries(items, histogram);
     return items;
 }

@@ -1,12 +1,11 @@
 #include "measure/StatisticRowText.h"
 
 #include "core/FrameModes.h"
+#include "measure/Milliseconds.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr double msPerSecond = 1000.0;
 
 int placeOf(double seconds, double scale, int width)
 {
@@ -46,8 +45,7 @@ bool isErrorFrame(const StatisticEntry& entry)
 
 QString periodText(double minimum, double period, double maximum)
 {
-    return QString::asprintf("[%.3f ms]  %.3f ms  [%.3f ms]", minimum * msPerSecond,
-                             period * msPerSecond, maximum * msPerSecond);
+    return QStringLiteral("[%1]  %2  [%3]").arg(msText(minimum), msText(period), msText(maximum));
 }
 
 PeriodBand periodBand(double minimum, double maximum, double filtered, double scale, int width)

@@ -10,6 +10,7 @@ namespace gui {
 inline constexpr int windowMargin = 3; ///< round a window's content and between its parts, pixels
 inline constexpr int minimumWindowWidth = 350;
 inline constexpr QSize firstWindowSize(550, 300);
+inline constexpr int boldWeight = 75;
 inline constexpr int lowButtonHeight = 22; ///< of the button below a window's list
 
 /// The icon of this name of the program's set; its file is "resources/icons/<name>.svg".

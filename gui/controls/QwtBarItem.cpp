@@ -2,6 +2,7 @@
 
 #include "core/Clock.h"
 #include "core/LowPass.h"
+#include "gui/controls/Colors.h"
 
 #include <QPainter>
 
@@ -11,7 +12,6 @@ namespace gui {
 
 namespace {
 
-constexpr double gain = 0.3;
 constexpr QColor barColor(100, 200, 100);
 
 } // namespace
@@ -34,7 +34,7 @@ void QwtBarItem::setValue(double rate, std::uint32_t maximum)
 {
     const double now = zul::wallClock();
     double state = m_rate;
-    zul::lowPass(rate, gain, now - m_lastTime, state);
+    zul::lowPass(rate, zul::measuredGain, now - m_lastTime, state);
     m_lastTime = now;
     showValues(state, maximum);
 }
@@ -68,6 +68,7 @@ void QwtBarItem::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), m_background);
     const Shown values = shown();
     painter.fillRect(0, 0, values.barWidth, height(), barColor);
+    painter.setPen(colors::normalText);
     painter.drawText(rect(), Qt::AlignCenter, values.text);
 }
 

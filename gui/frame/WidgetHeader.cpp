@@ -91,11 +91,18 @@ void WidgetHeader::resizeEvent(QResizeEvent* event)
     wrap();
 }
 
+int WidgetHeader::widthOfOneRow() const
+{
+    // The line between the halves counts also while it is hidden. Else the bar would need less room
+    // in two rows than in one, and at some widths go to and fro between them for ever.
+    const int hiddenLine = m_between->isHidden() ? m_between->sizeHint().width() + controlGap : 0;
+    return m_first->minimumSizeHint().width() + m_second->minimumSizeHint().width() + controlGap +
+           hiddenLine;
+}
+
 void WidgetHeader::wrap()
 {
-    const int needed =
-        m_first->minimumSizeHint().width() + m_second->minimumSizeHint().width() + controlGap;
-    const bool isWrapped = m_rows->parentWidget()->width() < needed;
+    const bool isWrapped = m_rows->parentWidget()->width() < widthOfOneRow();
     if (isWrapped == m_isWrapped && m_rows->count() > 0) {
         return;
     }
@@ -121,6 +128,8 @@ QLabel* WidgetHeader::makeCounter(const QString& toolTip, const QString& objectN
     counter->setToolTip(toolTip);
     counter->setObjectName(objectName);
     counter->setMargin(2);
+    // It has four digits of one width: a fixed size saves the window a new layout at each count.
+    counter->setFixedSize(counter->sizeHint());
     m_current->addWidget(counter);
     return counter;
 }

@@ -83,6 +83,7 @@ private:
     QLabel* makeCounter(const QString& toolTip, const QString& objectName);
     QToolButton* makeButton(const QString& toolTip, const QString& objectName);
     QFrame* addLine();
+    int widthOfOneRow() const;
     void wrap();
     void buildInput();
     void buildFilter();

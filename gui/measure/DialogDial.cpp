@@ -1,11 +1,9 @@
 #include "gui/measure/DialogDial.h"
 
-#include "core/Latin1.h"
 #include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtLineEdit.h"
 #include "gui/frame/ColorDialogs.h"
-#include "gui/frame/DialogFilter.h"
 #include "gui/frame/MessageGuiDialog.h"
 #include "gui/frame/QwtIdSelect.h"
 #include "gui/frame/WidgetHeader.h"
@@ -64,10 +62,10 @@ void addProperty(QGridLayout& grid, int number, const char* label, QWidget* cont
 } // namespace
 
 DialogDial::DialogDial(ObjectDial* object, QWidget* parent)
-    : DialogBase(object, parent), m_dial(object)
+    : DialogInput(object, parent), m_dial(object)
 {
     build();
-    connectHeader();
+    connectSelections();
     connectProperties();
     showSettings();
 }
@@ -76,14 +74,11 @@ DialogDial::~DialogDial() = default;
 
 void DialogDial::build()
 {
-    m_header = new WidgetHeader(this);
-    m_header->setMode(WidgetHeader::Mode::Input);
     buildSelections();
     buildPages();
     m_showProperties = new QCheckBox(this);
     m_showProperties->setObjectName(QStringLiteral("showProperties"));
     m_panel = buildPanel();
-    m_filterDialog = new DialogFilter(this);
 
     auto* selections = new QHBoxLayout;
     selections->addWidget(m_idSelect, 1);
@@ -91,7 +86,7 @@ void DialogDial::build()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
     layout->setSpacing(windowMargin);
-    layout->addWidget(m_header);
+    layout->addWidget(header());
     layout->addLayout(selections);
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_showProperties);
@@ -158,13 +153,8 @@ QWidget* DialogDial::buildPanel()
     return panel;
 }
 
-void DialogDial::connectHeader()
+void DialogDial::connectSelections()
 {
-    connect(m_header, &WidgetHeader::signalInputOn, this, &DialogDial::slotInputOn);
-    connect(m_header, &WidgetHeader::signalFilterOn, this, &DialogDial::slotFilterOn);
-    connect(m_header, &WidgetHeader::signalFilterSetup, this, &DialogDial::slotFilterSetup);
-    connect(m_header, &WidgetHeader::signalSetup, this, &DialogDial::slotSetup);
-    connect(m_header, &WidgetHeader::signalInputInterface, this, &DialogDial::slotInputInterface);
     connect(m_idSelect, &QwtIdSelect::signalId, this, &DialogDial::slotId);
     connect(m_idSelect, &QwtIdSelect::signalParameter, this, &DialogDial::slotParameter);
     connect(m_displayType, QOverload<int>::of(&QwtComboBox::signalActivated), this,
@@ -189,9 +179,8 @@ void DialogDial::connectProperties()
 
 void DialogDial::setObject(Object* object)
 {
-    DialogBase::setObject(object);
+    DialogInput::setObject(object);
     m_dial = dynamic_cast<ObjectDial*>(object);
-    m_filterDialog->letGo(); // the filter was the former object's
 }
 
 void DialogDial::guiMessage(Message* message)
@@ -209,18 +198,27 @@ void DialogDial::receive(MessageContainer& batch)
         return;
     }
     const DialFeed::Update update =
-        m_feed.receive(batch, m_dial->settings(), m_inputInterface, m_dial->filter());
+        m_feed.receive(batch, m_dial->settings(), inputInterface(), m_dial->filter());
     if (update == DialFeed::Update::Matched) {
         showFrame();
     }
     if (update != DialFeed::Update::Ignored) {
-        m_header->setInputCount(m_feed.receivedTotal());
+        header()->setInputCount(m_feed.receivedTotal());
     }
 }
 
 void DialogDial::updateDialog()
 {
     showSettings();
+}
+
+std::optional<DialogInput::Input> DialogDial::input()
+{
+    if (m_dial == nullptr) {
+        return std::nullopt;
+    }
+    auto& settings = m_dial->settings();
+    return Input{settings.inputOn, settings.inputInterface, m_dial->filter()};
 }
 
 QString DialogDial::titleText() const
@@ -236,11 +234,7 @@ void DialogDial::showSettings()
     }
     const QScopedValueRollback<bool> guard(m_updating, true);
     const auto& settings = m_dial->settings();
-    m_inputInterface = zul::toLatin1(settings.inputInterface);
-    m_header->setInputOn(settings.inputOn);
-    m_header->setFilterOn(m_dial->filter().isOn());
-    m_header->setOutputOn(false);
-    m_header->setInputInterface(settings.inputInterface);
+    showInput();
     m_idSelect->setId(static_cast<int>(std::min<std::uint32_t>(settings.canId, INT32_MAX)));
     m_displayType->setData(static_cast<int>(dialForm(settings.displayType)));
     m_name->setText(settings.name);
@@ -332,42 +326,6 @@ void DialogDial::propertyChanged()
     showProperties();
     showFrame();
     markEdited();
-}
-
-void DialogDial::slotInputOn(bool on)
-{
-    if (canEdit()) {
-        m_dial->settings().inputOn = on;
-        markEdited();
-    }
-}
-
-void DialogDial::slotFilterSetup()
-{
-    if (canEdit()) {
-        m_filterDialog->edit(m_dial->filter());
-        markEdited();
-    }
-}
-
-void DialogDial::slotFilterOn(bool on)
-{
-    if (canEdit()) {
-        m_dial->filter().setOn(on);
-        markEdited();
-    }
-}
-
-// There is no setup; the slot lets the header be wired alike in all windows.
-void DialogDial::slotSetup() {}
-
-void DialogDial::slotInputInterface(const QString& name)
-{
-    if (canEdit()) {
-        m_dial->settings().inputInterface = name;
-        m_inputInterface = zul::toLatin1(name);
-        markEdited();
-    }
 }
 
 void DialogDial::slotId(int id)

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "gui/frame/DialogBase.h"
+#include "gui/frame/DialogInput.h"
 #include "measure/DialFeed.h"
 #include "profile/ProfileParameter.h"
-
-#include <string>
 
 class ObjectDial;
 class QCheckBox;
@@ -13,19 +11,17 @@ class QPushButton;
 class QSpinBox;
 class QStackedWidget;
 class WidgetDial;
-class WidgetHeader;
 
 namespace gui {
 
 class DialLights;
 class DialNumber;
-class DialogFilter;
 class QwtComboBox;
 class QwtIdSelect;
 class QwtLineEdit;
 
 /// Shows the live value of one identifier: as the lights of its bits, as a needle, or as digits.
-class DialogDial : public DialogBase
+class DialogDial : public DialogInput
 {
     Q_OBJECT
 
@@ -41,15 +37,11 @@ public:
     void updateDialog() override;
 
 protected:
+    std::optional<Input> input() final;
     /// Name and unit of the value, not the name of the object.
     QString titleText() const override;
 
 private slots:
-    void slotInputOn(bool on);
-    void slotFilterSetup();
-    void slotFilterOn(bool on);
-    void slotSetup();
-    void slotInputInterface(const QString& name);
     void slotId(int id);
     void slotParameter(const ProfileParameter& parameter);
     void slotDisplayType(int type);
@@ -68,9 +60,8 @@ private:
     void buildSelections();
     void buildPages();
     QWidget* buildPanel();
-    void connectHeader();
+    void connectSelections();
     void connectProperties();
-    bool canEdit() const { return m_dial != nullptr && !m_updating; }
     /// Whether the form shows a value, and not bits.
     bool showsValue() const;
     QColor color() const;
@@ -84,10 +75,7 @@ private:
 
     ObjectDial* m_dial;
     DialFeed m_feed;
-    std::string m_inputInterface; // of the object, as batches name it
-    bool m_updating = false;
 
-    WidgetHeader* m_header = nullptr;
     QwtIdSelect* m_idSelect = nullptr;
     QwtComboBox* m_displayType = nullptr;
     QStackedWidget* m_pages = nullptr;
@@ -104,7 +92,6 @@ private:
     QLineEdit* m_max = nullptr;
     QPushButton* m_color = nullptr;
     QwtComboBox* m_endian = nullptr;
-    DialogFilter* m_filterDialog = nullptr;
 };
 
 } // namespace gui

@@ -20,6 +20,8 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <cmath>
+
 namespace gui {
 
 namespace {
@@ -39,6 +41,30 @@ struct Rgb
     float green;
     float blue;
 };
+
+template <typename Value>
+bool assign(Value& kept, Value now)
+{
+    const bool isOther = kept != now;
+    kept = now;
+    return isOther;
+}
+
+// Returns whether something was another.
+bool takeModes(const GraphState& state, ObjectGraph::Graph& graph)
+{
+    // The range is single precision, and moves along with the time: its last digits differ.
+    constexpr double tolerance = 1e-5;
+    const double seconds = state.xMax - state.xMin;
+    bool isOther = assign(graph.autoMode, state.autoMode);
+    isOther = assign(graph.splitMode, state.splitMode) || isOther;
+    isOther = assign(graph.cursorMode, state.cursorMode) || isOther;
+    if (std::fabs(seconds - graph.xRange) > std::fabs(graph.xRange) * tolerance) {
+        graph.xRange = seconds;
+        isOther = true;
+    }
+    return isOther;
+}
 
 } // namespace
 
@@ -239,6 +265,7 @@ void DialogGraph::slotActive(int row, bool checked)
     m_engine->setParameterVisible(static_cast<std::uint32_t>(row), checked);
     markEdited();
     refreshTable();
+    applyChannels(); // what was hidden may have columns of another range
 }
 
 void DialogGraph::slotInputOn(bool on)
@@ -289,6 +316,7 @@ void DialogGraph::slotCommandPress(int id)
 void DialogGraph::slotCommandRelease(int id)
 {
     constexpr double firstRange = GraphState::defaultSeconds;
+    letGo();
     switch (static_cast<GraphCommand>(id)) {
     case GraphCommand::ZoomIn:
     case GraphCommand::ZoomOut:
@@ -298,9 +326,11 @@ void DialogGraph::slotCommandRelease(int id)
         break;
     case GraphCommand::ZoomMarker:
         m_engine->zoomMarker();
+        keepModes();
         break;
     case GraphCommand::ClearAll:
         m_engine->clearAll();
+        keepModes(); // the range is the first one again
         break;
     case GraphCommand::AutoMode:
         setAutoMode(m_tools->button(GraphCommand::AutoMode)->isChecked());
@@ -319,9 +349,8 @@ void DialogGraph::slotCommandRelease(int id)
         break;
     case GraphCommand::Snapshot:
         saveSnapshot();
-        return; // the window may be gone
+        break; // the window may be gone
     }
-    m_held = noButton;
 }
 
 void DialogGraph::setRange(double seconds)
@@ -363,8 +392,12 @@ void DialogGraph::resetAll()
 
 void DialogGraph::slotManMode()
 {
-    if (m_graph != nullptr && m_graph->graph().autoMode != 0) {
-        m_graph->graph().autoMode = 0;
+    keepModes();
+}
+
+void DialogGraph::keepModes()
+{
+    if (m_graph != nullptr && takeModes(m_engine->state(), m_graph->graph())) {
         markEdited();
     }
     syncButtons();
@@ -380,9 +413,6 @@ void DialogGraph::slotTimeout()
         setRange(zoomedRange(state.xMax - state.xMin, heldIs(GraphCommand::ZoomIn)
                                                           ? ZoomDirection::In
                                                           : ZoomDirection::Out));
-    }
-    if (m_held == noButton) {
-        syncButtons(); // keys and the marker's zoom change modes too
     }
     m_header->setInputCount(m_feed.frameCount()); // the lamp goes out only in such a call
 }
@@ -418,7 +448,6 @@ QPixmap DialogGraph::snapshot()
 
 void DialogGraph::saveSnapshot()
 {
-    m_held = noButton;
     const QPixmap picture = snapshot();
     // The main window lives longer than this one.
     const QString name =

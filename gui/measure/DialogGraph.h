@@ -79,6 +79,9 @@ private:
     void applyChannels();
     void refreshTable();
     void syncButtons();
+    void letGo() { m_held = noButton; }
+    /// Takes modes and range over from the engine, which keys and commands change on their own.
+    void keepModes();
     void setRange(double seconds);
     void setAutoMode(bool on);
     void setSplitMode(bool on);

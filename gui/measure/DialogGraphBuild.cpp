@@ -136,11 +136,13 @@ void DialogGraph::connectControls()
     connect(m_table, &QWidget::customContextMenuRequested, this, &DialogGraph::slotContextMenu);
     connect(m_table, &GraphParameterTable::signalActive, this, &DialogGraph::slotActive);
     connect(m_tools, &GraphToolBar::signalPressed, this, &DialogGraph::slotCommandPress);
+    connect(m_tools, &GraphToolBar::signalLetGo, this, &DialogGraph::letGo);
     connect(m_tools, &GraphToolBar::signalReleased, this, &DialogGraph::slotCommandRelease);
     connect(m_setupDialog, &DialogGraphSetup::signalChanged, this, &DialogGraph::slotGraphSetup);
     connect(m_timer, &QTimer::timeout, this, &DialogGraph::slotTimeout);
     if (m_plot != nullptr) {
         connect(m_plot, &WidgetGraph::signalManMode, this, &DialogGraph::slotManMode);
+        connect(m_plot, &WidgetGraph::signalModes, this, &DialogGraph::keepModes);
     }
 }
 

@@ -1,12 +1,10 @@
 #include "gui/measure/DialogStatistic.h"
 
 #include "core/Clock.h"
-#include "core/Latin1.h"
 #include "gui/controls/Colors.h"
 #include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
-#include "gui/frame/DialogFilter.h"
 #include "gui/frame/QwtIdSelect.h"
 #include "gui/frame/WidgetHeader.h"
 #include "gui/measure/QwtBusLoad.h"
@@ -33,7 +31,7 @@ constexpr QSize firstStatisticSize(600, 500); // high enough for the plots
 } // namespace
 
 DialogStatistic::DialogStatistic(ObjectStatistic* object, QWidget* parent)
-    : DialogBase(object, parent), m_statisticObject(object), m_statistic(zul::wallClock())
+    : DialogInput(object, parent), m_statisticObject(object), m_statistic(zul::wallClock())
 {
     build();
     connectControls();
@@ -52,8 +50,6 @@ QSize DialogStatistic::sizeHint() const
 
 void DialogStatistic::build()
 {
-    m_header = new WidgetHeader(this);
-    m_header->setMode(WidgetHeader::Mode::Input);
     m_displayType = new QwtComboBox(0, this);
     m_displayType->setObjectName(QStringLiteral("displayType"));
     for (const StatisticViewTexts& texts : statisticViews) {
@@ -71,7 +67,6 @@ void DialogStatistic::build()
     m_pages->addWidget(m_tree);
     m_pages->addWidget(m_spread);
     m_pages->addWidget(m_busLoad);
-    m_filterDialog = new DialogFilter(this);
     m_menu = new QMenu(this);
     connect(m_menu->addAction(QStringLiteral("Show Spreading")), &QAction::triggered, this,
             &DialogStatistic::slotDial);
@@ -84,7 +79,7 @@ void DialogStatistic::build()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
     layout->setSpacing(windowMargin);
-    layout->addWidget(m_header);
+    layout->addWidget(header());
     layout->addLayout(top);
     layout->addWidget(m_pages, 1);
     setMinimumWidth(minimumWindowWidth);
@@ -93,12 +88,6 @@ void DialogStatistic::build()
 
 void DialogStatistic::connectControls()
 {
-    connect(m_header, &WidgetHeader::signalInputOn, this, &DialogStatistic::slotInputOn);
-    connect(m_header, &WidgetHeader::signalFilterOn, this, &DialogStatistic::slotFilterOn);
-    connect(m_header, &WidgetHeader::signalFilterSetup, this, &DialogStatistic::slotFilterSetup);
-    connect(m_header, &WidgetHeader::signalSetup, this, &DialogStatistic::slotSetup);
-    connect(m_header, &WidgetHeader::signalInputInterface, this,
-            &DialogStatistic::slotInputInterface);
     connect(m_displayType, QOverload<int>::of(&QwtComboBox::signalActivated), this,
             &DialogStatistic::slotDisplayType);
     connect(m_idSelect, &QwtIdSelect::signalId, this, &DialogStatistic::slotId);
@@ -108,9 +97,17 @@ void DialogStatistic::connectControls()
 
 void DialogStatistic::setObject(Object* object)
 {
-    DialogBase::setObject(object);
+    DialogInput::setObject(object);
     m_statisticObject = dynamic_cast<ObjectStatistic*>(object);
-    m_filterDialog->letGo(); // the filter was the former object's
+}
+
+std::optional<DialogInput::Input> DialogStatistic::input()
+{
+    if (m_statisticObject == nullptr) {
+        return std::nullopt;
+    }
+    auto& settings = m_statisticObject->settings();
+    return Input{settings.inputOn, settings.inputInterface, m_statisticObject->filter()};
 }
 
 void DialogStatistic::receive(MessageContainer& batch)
@@ -119,10 +116,10 @@ void DialogStatistic::receive(MessageContainer& batch)
         return;
     }
     const Statistic::Update update =
-        m_statistic.receive(batch, m_statisticObject->settings(), m_inputInterface,
+        m_statistic.receive(batch, m_statisticObject->settings(), inputInterface(),
                             m_statisticObject->filter(), zul::wallClock());
     if (update == Statistic::Update::Taken) {
-        m_header->setInputCount(m_statistic.receivedTotal());
+        header()->setInputCount(m_statistic.receivedTotal());
         showMeasurement();
     }
 }
@@ -163,11 +160,7 @@ void DialogStatistic::showSettings()
     }
     const QScopedValueRollback<bool> guard(m_updating, true);
     const auto& settings = m_statisticObject->settings();
-    m_inputInterface = zul::toLatin1(settings.inputInterface);
-    m_header->setInputOn(settings.inputOn);
-    m_header->setFilterOn(m_statisticObject->filter().isOn());
-    m_header->setOutputOn(false);
-    m_header->setInputInterface(settings.inputInterface);
+    showInput();
     m_shownView = view();
     m_displayType->setData(static_cast<int>(m_shownView));
     m_idSelect->setId(static_cast<int>(std::min<std::uint32_t>(settings.selectedId, INT32_MAX)));
@@ -199,42 +192,6 @@ void DialogStatistic::contextMenuEvent(QContextMenuEvent* event)
 {
     if (m_currentItem != nullptr) {
         m_menu->exec(event->globalPos());
-    }
-}
-
-void DialogStatistic::slotInputOn(bool on)
-{
-    if (canEdit()) {
-        m_statisticObject->settings().inputOn = on;
-        markEdited();
-    }
-}
-
-void DialogStatistic::slotFilterSetup()
-{
-    if (canEdit()) {
-        m_filterDialog->edit(m_statisticObject->filter());
-        markEdited();
-    }
-}
-
-void DialogStatistic::slotFilterOn(bool on)
-{
-    if (canEdit()) {
-        m_statisticObject->filter().setOn(on);
-        markEdited();
-    }
-}
-
-// There is no setup; the slot lets the header be wired alike in all windows.
-void DialogStatistic::slotSetup() {}
-
-void DialogStatistic::slotInputInterface(const QString& name)
-{
-    if (canEdit()) {
-        m_statisticObject->settings().inputInterface = name;
-        m_inputInterface = zul::toLatin1(name);
-        markEdited();
     }
 }
 

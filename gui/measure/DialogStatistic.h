@@ -1,19 +1,15 @@
 #pragma once
 
-#include "gui/frame/DialogBase.h"
+#include "gui/frame/DialogInput.h"
 #include "measure/Statistic.h"
-
-#include <string>
 
 class ObjectStatistic;
 class QMenu;
 class QStackedWidget;
 class QTreeWidgetItem;
-class WidgetHeader;
 
 namespace gui {
 
-class DialogFilter;
 class QwtBusLoad;
 class QwtComboBox;
 class QwtIdSelect;
@@ -22,7 +18,7 @@ class StatisticTree;
 
 /// Measures traffic: the rate or the period of each identifier, how the periods of one spread, or
 /// the load of the bus.
-class DialogStatistic : public DialogBase
+class DialogStatistic : public DialogInput
 {
     Q_OBJECT
 
@@ -41,14 +37,10 @@ public:
     const Statistic& statistic() const { return m_statistic; }
 
 protected:
+    std::optional<Input> input() final;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private slots:
-    void slotInputOn(bool on);
-    void slotFilterSetup();
-    void slotFilterOn(bool on);
-    void slotSetup();
-    void slotInputInterface(const QString& name);
     void slotDisplayType(int view);
     void slotId(int id);
     void slotItemChanged(QTreeWidgetItem* current, QTreeWidgetItem* previous);
@@ -59,7 +51,6 @@ private slots:
 private:
     void build();
     void connectControls();
-    bool canEdit() const { return m_statisticObject != nullptr && !m_updating; }
     StatisticView view() const;
     void showSettings();
     void showMeasurement();
@@ -68,19 +59,15 @@ private:
 
     ObjectStatistic* m_statisticObject;
     Statistic m_statistic;
-    std::string m_inputInterface; // of the object, as batches name it
     StatisticView m_shownView = StatisticView::Average;
     QTreeWidgetItem* m_currentItem = nullptr;
-    bool m_updating = false;
 
-    WidgetHeader* m_header = nullptr;
     QwtComboBox* m_displayType = nullptr;
     QwtIdSelect* m_idSelect = nullptr;
     QStackedWidget* m_pages = nullptr;
     StatisticTree* m_tree = nullptr;
     QwtSpread* m_spread = nullptr;
     QwtBusLoad* m_busLoad = nullptr;
-    DialogFilter* m_filterDialog = nullptr;
     QMenu* m_menu = nullptr;
 };
 

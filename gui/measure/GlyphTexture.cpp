@@ -19,8 +19,6 @@ constexpr int lettersInRow = 16;
 constexpr int rows = 16;
 constexpr int fontHeight = 13;    // pixels of a line
 constexpr int smallestPixels = 8; // of the letters
-constexpr int floatsInCorner = 4;
-constexpr int cornersOfLetter = 4;
 // Between the cells, so that no letter takes from its neighbour.
 constexpr int cellGap = 1;
 
@@ -91,7 +89,8 @@ void GlyphTexture::load(double pixelRatio)
     glBindTexture(GL_TEXTURE_2D, 0);
 }
 
-void GlyphTexture::draw(const GraphText& text)
+void GlyphTexture::addTo(std::vector<GraphVertex>& corners, const GraphText& text,
+                         const GraphColor& color) const
 {
     const auto ratio = static_cast<float>(m_pixelRatio);
     const auto textureWidth = static_cast<float>(lettersInRow * (m_cellWidth + cellGap));
@@ -100,10 +99,8 @@ void GlyphTexture::draw(const GraphText& text)
         std::round(text.place.y * ratio) - static_cast<float>(m_cellHeight - m_ascent);
     float left = std::round(text.place.x * ratio);
     const auto addCorner = [&](float x, float y, float u, float v) {
-        m_corners.insert(m_corners.end(),
-                         {x / ratio, y / ratio, u / textureWidth, v / textureHeight});
+        corners.push_back({{x / ratio, y / ratio}, color, {u / textureWidth, v / textureHeight}});
     };
-    m_corners.clear();
     const auto width = static_cast<float>(m_cellWidth);
     const auto height = static_cast<float>(m_cellHeight);
     for (const char letter : text.text) {
@@ -117,16 +114,6 @@ void GlyphTexture::draw(const GraphText& text)
         addCorner(left, bottom + height, u, v);
         left += width;
     }
-    constexpr GLsizei stride = floatsInCorner * sizeof(float);
-    glEnable(GL_TEXTURE_2D);
-    glBindTexture(GL_TEXTURE_2D, m_texture);
-    glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_MODULATE);
-    glEnableClientState(GL_TEXTURE_COORD_ARRAY);
-    glVertexPointer(2, GL_FLOAT, stride, m_corners.data());
-    glTexCoordPointer(2, GL_FLOAT, stride, m_corners.data() + 2);
-    glDrawArrays(GL_QUADS, 0, static_cast<GLsizei>(text.text.size()) * cornersOfLetter);
-    glDisableClientState(GL_TEXTURE_COORD_ARRAY);
-    glDisable(GL_TEXTURE_2D);
 }
 
 int GlyphTexture::width(const std::string& text) const

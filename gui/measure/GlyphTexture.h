@@ -11,6 +11,14 @@ class QImage;
 
 namespace gui {
 
+/// A corner of what is drawn, as OpenGL takes it.
+struct GraphVertex
+{
+    GraphPoint place;
+    GraphColor color;
+    GraphPoint inTexture; ///< from 0 to 1; of no matter without a texture
+};
+
 /// The letters of a font whose letters are all of one width, as a texture: texts of a picture cost
 /// no more than its lines do, and each letter stands on whole pixels. Knows the letters of Latin-1.
 ///
@@ -28,8 +36,12 @@ public:
     /// Makes the letters for a screen with so many pixels to one of Qt's. What an older context had
     /// is forgotten.
     void load(double pixelRatio);
-    /// Draws a text in the current colour; places are Qt's pixels from the bottom left.
-    void draw(const GraphText& text);
+    /// Adds the corners of a text's letters, four each; places are Qt's pixels from the bottom
+    /// left.
+    void addTo(std::vector<GraphVertex>& corners, const GraphText& text,
+               const GraphColor& color) const;
+    /// 0 before `load`.
+    unsigned texture() const { return m_texture; }
 
     int width(const std::string& text) const override;
     int height() const override { return m_height; }
@@ -45,7 +57,6 @@ private:
     int m_cellHeight = 0;
     int m_ascent = 0;
     unsigned m_texture = 0;
-    std::vector<float> m_corners; // x, y and place in the texture of each letter's corners
 };
 
 } // namespace gui

@@ -38,6 +38,7 @@ GraphParameterTable::GraphParameterTable(QWidget* parent) : QTableWidget(0, Colu
 
 void GraphParameterTable::fill(const std::vector<GraphParameter>& parameters, int selectedRow)
 {
+    setAutoScroll(false); // the user's place in the list stays
     clearContents();
     setRowCount(static_cast<int>(parameters.size()));
     QFont bold = font();
@@ -64,6 +65,7 @@ void GraphParameterTable::fill(const std::vector<GraphParameter>& parameters, in
     }
     clearSelection();
     selectRow(selectedRow);
+    setAutoScroll(true);
 }
 
 } // namespace gui

@@ -19,6 +19,7 @@ public:
     explicit GraphParameterTable(QWidget* parent = nullptr);
 
     /// Makes all rows anew, and selects one of them; none if there is no such row.
+    /// The list stays scrolled as it was.
     void fill(const std::vector<GraphParameter>& parameters, int selectedRow);
 
 signals:

@@ -46,7 +46,10 @@ GraphToolBar::GraphToolBar(QWidget* parent)
     button(GraphCommand::AutoMode)->setFont(small);
     arrange(static_cast<int>(graphButtons.size()));
     connect(m_group, &QButtonGroup::idPressed, this, &GraphToolBar::signalPressed);
-    connect(m_group, &QButtonGroup::idReleased, this, &GraphToolBar::signalReleased);
+    connect(m_group, &QButtonGroup::idReleased, this, &GraphToolBar::signalLetGo);
+    // A button that the pointer leaves counts as released for Qt, but not for a user who thought
+    // better of it.
+    connect(m_group, &QButtonGroup::idClicked, this, &GraphToolBar::signalReleased);
 }
 
 void GraphToolBar::resizeEvent(QResizeEvent* event)

@@ -63,8 +63,11 @@ public:
     void setModes(bool isAutomatic, bool isSplit) const;
 
 signals:
-    /// Both with the button's id.
+    /// With the button's id, also when the pointer comes back to a button that is held.
     void signalPressed(int id);
+    /// No button is held any more: it was released, or the pointer left it.
+    void signalLetGo();
+    /// A button was released below the pointer; comes behind `signalLetGo`.
     void signalReleased(int id);
 
 protected:

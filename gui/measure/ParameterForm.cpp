@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QLocale>
 
+#include <algorithm>
 #include <cmath>
 
 namespace gui {
@@ -32,14 +33,18 @@ QHBoxLayout* sideBySide(QWidget* left, QWidget* right)
     return layout;
 }
 
-void fillNumbers(QwtComboBox& selection, const std::vector<std::uint32_t>& numbers,
-                 std::uint32_t value, bool isEnabled)
+void fillNumbers(QwtComboBox& selection, std::vector<std::uint32_t> numbers, std::uint32_t value,
+                 bool isEnabled)
 {
+    const auto place = std::lower_bound(numbers.begin(), numbers.end(), value);
+    if (!numbers.empty() && (place == numbers.end() || *place != value)) {
+        numbers.insert(place, value);
+    }
     selection.clear();
     for (const std::uint32_t number : numbers) {
         selection.addItem(QString::number(number), number);
     }
-    selection.setData(static_cast<int>(value));
+    selection.setCurrentIndex(selection.findData(value));
     selection.setEnabled(isEnabled);
 }
 

@@ -20,9 +20,10 @@ QwtComboBox* makeSelection(const char* objectName, QWidget* parent);
 /// Two controls side by side, of one width.
 QHBoxLayout* sideBySide(QWidget* left, QWidget* right);
 
-/// Offers these numbers, and shows `value` if it is one of them.
-void fillNumbers(QwtComboBox& selection, const std::vector<std::uint32_t>& numbers,
-                 std::uint32_t value, bool isEnabled);
+/// Offers these numbers and `value`, which is shown: it counts until another is chosen. Where there
+/// is nothing to offer, nothing is shown.
+void fillNumbers(QwtComboBox& selection, std::vector<std::uint32_t> numbers, std::uint32_t value,
+                 bool isEnabled);
 
 /// As "%f".
 QString fixedText(double value);

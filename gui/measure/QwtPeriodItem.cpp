@@ -2,6 +2,7 @@
 
 #include "core/Clock.h"
 #include "core/LowPass.h"
+#include "gui/controls/Colors.h"
 
 #include <QPainter>
 
@@ -9,7 +10,6 @@ namespace gui {
 
 namespace {
 
-constexpr double gain = 0.3;
 constexpr QColor bandColor(200, 200, 0);
 constexpr QColor lineColor(200, 0, 0);
 constexpr QColor borderColor(200, 200, 200);
@@ -44,7 +44,7 @@ void QwtPeriodItem::setPeriod(double period, double minimum, double maximum, dou
     const int lineBefore = band().line;
     const bool isOther =
         period != m_period || minimum != m_minimum || maximum != m_maximum || scale != m_scale;
-    zul::lowPass(period, gain, now - m_lastWall, m_filtered);
+    zul::lowPass(period, zul::measuredGain, now - m_lastWall, m_filtered);
     m_lastWall = now;
     m_period = period;
     m_minimum = minimum;
@@ -67,6 +67,7 @@ void QwtPeriodItem::paintEvent(QPaintEvent*)
     const PeriodBand shown = band();
     painter.fillRect(shown.left, 0, shown.width, height(), bandColor);
     painter.fillRect(shown.line, 0, 1, height(), lineColor);
+    painter.setPen(colors::normalText);
     painter.drawText(rect(), Qt::AlignCenter, periodText(m_minimum, m_period, m_maximum));
     painter.setPen(borderColor);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::array<int, StatisticTree::columnTotal> columnWidths{60, 80, 120};
 constexpr QSize markerSize(16, 14);
-constexpr int boldWeight = 75;
 constexpr int cellMargins = 8;
+constexpr std::size_t mostCells = 200;    // each one costs time when the rows are scrolled
 constexpr std::uint32_t smoothedFrom = 3; // frames
 
 const char* valueHeader(StatisticView view)
@@ -137,7 +137,7 @@ void StatisticTree::showRate(int row, QTreeWidgetItem& item)
     auto* bar = qobject_cast<QwtBarItem*>(itemWidget(&item, ValueColumn));
     if (bar == nullptr) {
         bar = new QwtBarItem(row);
-        setItemWidget(&item, ValueColumn, bar);
+        setCell(row, bar);
         if (row < m_firstNewRow) { // it comes into view late, and need not rise from 0
             bar->setRate(m_table.rate(row), m_table.rateMax());
         }
@@ -153,7 +153,7 @@ void StatisticTree::showPeriod(int row, QTreeWidgetItem& item)
     const bool isLate = cell == nullptr && row < m_firstNewRow;
     if (cell == nullptr) {
         cell = new QwtPeriodItem;
-        setItemWidget(&item, ValueColumn, cell);
+        setCell(row, cell);
     }
     if (entry.count < smoothedFrom || isLate) {
         cell->startAt(entry.period);
@@ -166,6 +166,7 @@ void StatisticTree::clearRows()
 {
     clear();
     m_shown.clear();
+    m_cellRows.clear();
     m_firstNewRow = 0;
     setColumnWidth(IdColumn, columnWidths[IdColumn]);
 }
@@ -191,6 +192,24 @@ void StatisticTree::completeRowsInView()
             showRow(row);
         }
     }
+    if (m_cellRows.size() > mostCells) {
+        dropCellsOutOfView(first, end);
+    }
+}
+
+void StatisticTree::setCell(int row, QWidget* cell)
+{
+    setItemWidget(topLevelItem(row), ValueColumn, cell);
+    m_cellRows.push_back(row);
+}
+
+void StatisticTree::dropCellsOutOfView(int first, int end)
+{
+    const auto out = std::partition(m_cellRows.begin(), m_cellRows.end(),
+                                    [=](int row) { return row >= first && row < end; });
+    std::for_each(out, m_cellRows.end(),
+                  [this](int row) { removeItemWidget(topLevelItem(row), ValueColumn); });
+    m_cellRows.erase(out, m_cellRows.end());
 }
 
 } // namespace gui

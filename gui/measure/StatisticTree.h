@@ -12,7 +12,8 @@
 namespace gui {
 
 /// The rows of a `StatisticTable`, each with a cell widget for its rate or its period. A row gets
-/// its widget when it comes into view, and only rows in view are looked at.
+/// its widget when it comes into view, and only rows in view are looked at. Of rows that have left
+/// it some keep their widgets.
 class StatisticTree : public QTreeWidget
 {
     Q_OBJECT
@@ -55,14 +56,17 @@ private:
     void showRate(int row, QTreeWidgetItem& item);
     void showPeriod(int row, QTreeWidgetItem& item);
     void completeRowsInView();
+    void setCell(int row, QWidget* cell);
+    void dropCellsOutOfView(int first, int end);
 
     const StatisticTable& m_table;
     StatisticView m_view = StatisticView::Average;
     QIcon m_alive;
     QIcon m_silent;
     QFont m_boldFont;
-    std::vector<Shown> m_shown; // by row
-    int m_firstNewRow = 0;      // rows from it on had their first frame in this batch
+    std::vector<Shown> m_shown;  // by row
+    std::vector<int> m_cellRows; // rows that have a cell widget
+    int m_firstNewRow = 0;       // rows from it on had their first frame in this batch
 };
 
 } // namespace gui

@@ -1,5 +1,6 @@
 #include "gui/measure/WidgetDial.h"
 
+#include "gui/controls/Look.h"
 #include "measure/DialScale.h"
 
 #include <QFontMetricsF>
@@ -12,7 +13,6 @@ namespace {
 
 constexpr int minimumExtent = 100; // pixels
 constexpr QColor minorMarkColor(100, 100, 100);
-constexpr int boldWeight = 75;
 constexpr double textMargin = 16.0; // of a long text, both sides together
 
 } // namespace
@@ -80,7 +80,7 @@ void WidgetDial::paintEvent(QPaintEvent* event)
     drawNeedle(painter);
     painter.setPen(m_color);
     QFont font = painter.font();
-    font.setWeight(boldWeight);
+    font.setWeight(gui::boldWeight);
     painter.setFont(font);
     drawText(painter, dialValuePlace, dialValueText(m_value, m_precision));
     drawText(painter, dialNamePlace, dialTitle(m_name, m_unit));

@@ -1,7 +1,5 @@
 #include "gui/measure/WidgetGraph.h"
 
-#include "gui/measure/GraphPlayer.h"
-
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -24,7 +22,7 @@ bool WidgetGraph::isPossible()
 }
 
 WidgetGraph::WidgetGraph(QWidget* parent)
-    : QGLWidget(parent), m_letters(gui::GlyphTexture::scopeFont())
+    : QGLWidget(parent), m_timer(this), m_player(gui::GlyphTexture::scopeFont())
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -149,15 +147,26 @@ void WidgetGraph::setModifier(int key, bool isHeld)
     }
 }
 
-bool WidgetGraph::runKey(int key)
+bool WidgetGraph::runKey(const QKeyEvent& event)
 {
-    switch (key) {
+    switch (event.key()) {
     case Qt::Key_F2:
         setSplitMode(0);
         return true;
     case Qt::Key_F3:
         setSplitMode(1);
         return true;
+    default:
+        break;
+    }
+    // Who cuts with Control and X does not mean to lose what was recorded.
+    const Qt::KeyboardModifiers others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return (event.modifiers() & others) == Qt::NoModifier && runLetter(event.key());
+}
+
+bool WidgetGraph::runLetter(int key)
+{
+    switch (key) {
     case Qt::Key_A:
         resumeAutoMode();
         return true;
@@ -181,8 +190,9 @@ bool WidgetGraph::runKey(int key)
 void WidgetGraph::keyPressEvent(QKeyEvent* event)
 {
     setModifier(event->key(), true);
-    if (runKey(event->key())) {
+    if (runKey(*event)) {
         update();
+        emit signalModes();
     } else {
         QGLWidget::keyPressEvent(event);
     }
@@ -218,7 +228,7 @@ void WidgetGraph::initializeGL()
     glOrtho(0.0, width(), 0.0, height(), nearest, farthest);
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
-    m_letters.load(devicePixelRatioF());
+    m_player.load(devicePixelRatioF());
 }
 
 void WidgetGraph::resizeGL(int, int)
@@ -234,6 +244,6 @@ void WidgetGraph::paintGL()
     const GraphColor& back = state().backColor;
     glClearColor(back.red, back.green, back.blue, 1.0F);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    paint(m_letters, m_drawing);
-    playDrawing(m_drawing, m_letters, devicePixelRatioF());
+    paint(m_player.metrics(), m_drawing);
+    m_player.play(m_drawing);
 }

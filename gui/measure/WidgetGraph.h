@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/measure/GlyphTexture.h"
+#include "gui/measure/GraphPlayer.h"
 #include "measure/GraphEngine.h"
 
 #include <QGLWidget>
@@ -30,6 +30,8 @@ signals:
     void signalMarker(float start, float end);
     /// The user moved the range by hand.
     void signalManMode();
+    /// A key changed modes or range.
+    void signalModes();
 
 public slots:
     void slotTimeout();
@@ -48,12 +50,13 @@ protected:
 private:
     void requestRepaint() override;
     void setModifier(int key, bool isHeld);
-    bool runKey(int key);
+    bool runKey(const QKeyEvent& event);
+    bool runLetter(int key);
     void holdCursorAt(const QPoint& place);
     void emitMarker();
 
     QTimer m_timer;
-    gui::GlyphTexture m_letters;
+    gui::GraphPlayer m_player;
     GraphDrawing m_drawing;
     bool m_leftHeld = false;
     bool m_middleHeld = false;

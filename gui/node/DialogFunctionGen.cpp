@@ -1,6 +1,5 @@
 #include "gui/node/DialogFunctionGen.h"
 
-#include "gui/frame/DialogFilter.h"
 #include "gui/frame/InputDialogs.h"
 #include "gui/frame/MessageBoxes.h"
 #include "gui/frame/WidgetHeader.h"
@@ -21,13 +20,15 @@ namespace gui {
 using Kind = generator::ChannelFrame;
 
 DialogFunctionGen::DialogFunctionGen(ObjectFunctionGen* object, QWidget* parent)
-    : DialogBase(object, parent),
-      m_object(object),
+    : DialogInput(object, parent),
+      m_functionGen(object),
       m_searchTimer(new QTimer(this)),
       m_flashTimer(new QTimer(this))
 {
+    m_searchTimer->setObjectName(QStringLiteral("searchTimer"));
     m_searchTimer->setSingleShot(true);
     m_searchTimer->setInterval(GeneratorControl::searchPeriodMs);
+    m_flashTimer->setObjectName(QStringLiteral("flashTimer"));
     m_flashTimer->setSingleShot(true);
     m_flashTimer->setInterval(GeneratorControl::flashTimeoutMs);
     build();
@@ -40,44 +41,50 @@ DialogFunctionGen::~DialogFunctionGen() = default;
 
 void DialogFunctionGen::setObject(Object* object)
 {
-    DialogBase::setObject(object);
-    m_object = dynamic_cast<ObjectFunctionGen*>(object);
-    m_filterDialog->letGo(); // the filter was the former object's
+    DialogInput::setObject(object);
+    m_functionGen = dynamic_cast<ObjectFunctionGen*>(object);
+}
+
+std::optional<DialogInput::Input> DialogFunctionGen::input()
+{
+    if (m_functionGen == nullptr) {
+        return std::nullopt;
+    }
+    FunctionGenSettings& settings = m_functionGen->settings();
+    return Input{settings.inputOn, settings.inputInterface, m_functionGen->filter()};
 }
 
 void DialogFunctionGen::forceClose()
 {
-    DialogBase::forceClose();
+    DialogInput::forceClose();
     endSearch();
     m_flashTimer->stop();
 }
 
 void DialogFunctionGen::updateDialog()
 {
-    if (m_object == nullptr) {
+    if (m_functionGen == nullptr) {
         return;
     }
-    const QScopedValueRollback<bool> guard(m_filling, true);
-    const FunctionGenSettings& settings = m_object->settings();
-    m_header->setInputOn(settings.inputOn);
-    m_header->setOutputOn(settings.outputOn);
-    m_header->setFilterOn(m_object->filter().isOn());
-    m_header->setInputInterface(settings.inputInterface);
-    m_header->setOutputInterface(settings.outputInterface);
-    m_panel->showGenerator(m_object->generator());
+    showInput();
+    const QScopedValueRollback<bool> guard(m_updating, true);
+    const FunctionGenSettings& settings = m_functionGen->settings();
+    header()->setOutputOn(settings.outputOn);
+    header()->setOutputInterface(settings.outputInterface);
+    m_panel->showGenerator(m_functionGen->generator());
     for (std::size_t i = 0; i < m_pages.size(); ++i) {
-        m_pages[i]->showChannel(m_object->channels()[i]);
+        m_pages[i]->showChannel(m_functionGen->channels()[i]);
     }
 }
 
 DialogFunctionGen::Channel& DialogFunctionGen::channel()
 {
-    return m_object->channels()[m_selectedChannel];
+    return m_functionGen->channels()[m_selectedChannel];
 }
 
 void DialogFunctionGen::showChannel()
 {
-    const QScopedValueRollback<bool> guard(m_filling, true);
+    const QScopedValueRollback<bool> guard(m_updating, true);
     m_pages[m_selectedChannel]->showChannel(channel());
 }
 
@@ -89,18 +96,18 @@ void DialogFunctionGen::showFlash()
 
 void DialogFunctionGen::receive(MessageContainer& batch)
 {
-    if (m_object == nullptr) {
+    if (m_functionGen == nullptr) {
         return;
     }
-    const GeneratorControl::Update update = m_control.receive(batch, *m_object);
+    const GeneratorControl::Update update = m_control.receive(batch, *m_functionGen);
     if (!update.isOurs) {
         return;
     }
-    m_header->setInputCount(m_control.receivedTotal());
+    header()->setInputCount(m_control.receivedTotal());
     if (update.found) {
         m_panel->showFound(m_control.found());
-        const QScopedValueRollback<bool> guard(m_filling, true);
-        m_panel->showGenerator(m_object->generator());
+        const QScopedValueRollback<bool> guard(m_updating, true);
+        m_panel->showGenerator(m_functionGen->generator());
     }
     if (update.flash) {
         showFlash();
@@ -111,47 +118,14 @@ void DialogFunctionGen::sendFrames(MessageContainer batch)
 {
     if (batch.size() > 0) {
         send(batch);
-        m_header->setOutputCount(m_control.sentTotal());
-    }
-}
-
-void DialogFunctionGen::slotInputOn(bool on)
-{
-    if (canEdit()) {
-        m_object->settings().inputOn = on;
-        markEdited();
-    }
-}
-
-void DialogFunctionGen::slotFilterSetup()
-{
-    if (m_object != nullptr) {
-        m_filterDialog->edit(m_object->filter());
-    }
-}
-
-void DialogFunctionGen::slotFilterOn(bool on)
-{
-    if (canEdit()) {
-        m_object->filter().setOn(on);
-        markEdited();
-    }
-}
-
-void DialogFunctionGen::slotSetup() {} // there is nothing to set up
-
-void DialogFunctionGen::slotInputInterface(const QString& name)
-{
-    if (canEdit()) {
-        m_object->settings().inputInterface = name;
-        markEdited();
+        header()->setOutputCount(m_control.sentTotal());
     }
 }
 
 void DialogFunctionGen::slotOutputInterface(const QString& name)
 {
     if (canEdit()) {
-        m_object->settings().outputInterface = name;
+        m_functionGen->settings().outputInterface = name;
         markEdited();
     }
 }
@@ -159,14 +133,14 @@ void DialogFunctionGen::slotOutputInterface(const QString& name)
 void DialogFunctionGen::slotOutputOn(bool on)
 {
     if (canEdit()) {
-        m_object->settings().outputOn = on;
+        m_functionGen->settings().outputOn = on;
         markEdited();
     }
 }
 
 void DialogFunctionGen::slotSearch()
 {
-    if (m_object == nullptr) {
+    if (m_functionGen == nullptr) {
         return;
     }
     m_control.startSearch();
@@ -178,11 +152,11 @@ void DialogFunctionGen::slotSearch()
 
 void DialogFunctionGen::slotTimeout()
 {
-    if (m_object == nullptr) {
+    if (m_functionGen == nullptr) {
         endSearch();
         return;
     }
-    sendFrames(m_control.searchStep(*m_object));
+    sendFrames(m_control.searchStep(*m_functionGen));
     m_panel->showSearch(true, m_control.searchNode());
     if (m_control.isSearching()) {
         m_searchTimer->start();
@@ -204,47 +178,47 @@ void DialogFunctionGen::endSearch()
 
 void DialogFunctionGen::slotNode(QListWidgetItem* current, QListWidgetItem*)
 {
-    if (m_object == nullptr || current == nullptr) {
+    if (m_functionGen == nullptr || current == nullptr) {
         return;
     }
-    m_object->generator().nodeId = current->data(Qt::UserRole).toInt();
-    m_object->generator().nodeBaseId =
+    m_functionGen->generator().nodeId = current->data(Qt::UserRole).toInt();
+    m_functionGen->generator().nodeBaseId =
         static_cast<std::int32_t>(current->data(GeneratorNodePanel::baseIdRole).toUInt());
-    const QScopedValueRollback<bool> guard(m_filling, true);
-    m_panel->showGenerator(m_object->generator());
+    const QScopedValueRollback<bool> guard(m_updating, true);
+    m_panel->showGenerator(m_functionGen->generator());
 }
 
 void DialogFunctionGen::slotNodeId(int nodeId)
 {
     if (canEdit()) {
-        m_object->generator().nodeId = nodeId;
+        m_functionGen->generator().nodeId = nodeId;
     }
 }
 
 void DialogFunctionGen::slotNodeCanId(int baseId)
 {
     if (canEdit()) {
-        m_object->generator().nodeBaseId = baseId;
+        m_functionGen->generator().nodeBaseId = baseId;
     }
 }
 
 void DialogFunctionGen::slotBaudrate(int index)
 {
     if (canEdit()) {
-        m_object->generator().baudrate = index;
+        m_functionGen->generator().baudrate = index;
     }
 }
 
 bool DialogFunctionGen::isConfirmed(const char* question)
 {
-    if (m_object == nullptr) {
+    if (m_functionGen == nullptr) {
         return false;
     }
     const QPointer<DialogFunctionGen> self(this); // the window may close behind the box
     const auto answer =
         MessageBoxes::ask(this, QMessageBox::Warning, QLatin1String(MessageBoxes::warningTitle),
                           QLatin1String(question), {QMessageBox::Yes, QMessageBox::Cancel});
-    return answer == QMessageBox::Yes && !self.isNull() && m_object != nullptr;
+    return answer == QMessageBox::Yes && !self.isNull() && m_functionGen != nullptr;
 }
 
 void DialogFunctionGen::flash(MessageContainer batch)
@@ -256,22 +230,22 @@ void DialogFunctionGen::flash(MessageContainer batch)
 
 void DialogFunctionGen::slotFlashNodeId()
 {
-    if (m_object == nullptr) {
+    if (m_functionGen == nullptr) {
         return;
     }
     constexpr int lowestNode = 1;
     constexpr int highestNode = 100;
     const QPointer<DialogFunctionGen> self(this); // the window may close behind the box
-    const std::optional<int> node =
-        InputDialogs::integer(this, {QStringLiteral("ZUL"), QStringLiteral("Enter new node id:"),
-                                     m_object->generator().nodeId, lowestNode, highestNode, 1});
-    if (!node.has_value() || self.isNull() || m_object == nullptr) {
+    const std::optional<int> node = InputDialogs::integer(
+        this, {QStringLiteral("ZUL"), QStringLiteral("Enter new node id:"),
+               m_functionGen->generator().nodeId, lowestNode, highestNode, 1});
+    if (!node.has_value() || self.isNull() || m_functionGen == nullptr) {
         return;
     }
-    MessageContainer batch = m_control.setNodeId(*m_object, static_cast<std::uint32_t>(*node));
+    MessageContainer batch = m_control.setNodeId(*m_functionGen, static_cast<std::uint32_t>(*node));
     {
-        const QScopedValueRollback<bool> guard(m_filling, true);
-        m_panel->showGenerator(m_object->generator());
+        const QScopedValueRollback<bool> guard(m_updating, true);
+        m_panel->showGenerator(m_functionGen->generator());
     }
     flash(std::move(batch));
 }
@@ -279,21 +253,21 @@ void DialogFunctionGen::slotFlashNodeId()
 void DialogFunctionGen::slotFlashNodeCanId()
 {
     if (isConfirmed("Are you sure to change the CAN base id ?\n")) {
-        flash(m_control.setBaseId(*m_object));
+        flash(m_control.setBaseId(*m_functionGen));
     }
 }
 
 void DialogFunctionGen::slotFlashBaudrate()
 {
     if (isConfirmed("Are you sure to change the baudrate ?\n")) {
-        flash(m_control.setBaudrate(*m_object));
+        flash(m_control.setBaudrate(*m_functionGen));
     }
 }
 
 void DialogFunctionGen::slotFlashParameter()
 {
     if (isConfirmed("Are you sure to store all data permanently ?\n")) {
-        flash(m_control.storeData(*m_object));
+        flash(m_control.storeData(*m_functionGen));
     }
 }
 
@@ -321,7 +295,7 @@ void DialogFunctionGen::slotOnOff(int state)
 {
     if (canEdit()) {
         channel().active = state == Qt::Checked;
-        channelChanged(m_control.writeActivation(*m_object, m_selectedChannel));
+        channelChanged(m_control.writeActivation(*m_functionGen, m_selectedChannel));
     }
 }
 
@@ -329,7 +303,7 @@ void DialogFunctionGen::slotWaveForm(int waveform)
 {
     if (canEdit()) {
         channel().waveForm = waveform;
-        channelChanged(m_control.writeConfiguration(*m_object, m_selectedChannel));
+        channelChanged(m_control.writeConfiguration(*m_functionGen, m_selectedChannel));
     }
 }
 
@@ -337,7 +311,7 @@ void DialogFunctionGen::slotId(int id)
 {
     if (canEdit()) {
         channel().canId = static_cast<std::uint32_t>(id);
-        channelChanged(m_control.writeSetting(*m_object, m_selectedChannel, Kind::CanId));
+        channelChanged(m_control.writeSetting(*m_functionGen, m_selectedChannel, Kind::CanId));
     }
 }
 
@@ -345,7 +319,7 @@ void DialogFunctionGen::slotDataType(int dataType)
 {
     if (canEdit()) {
         channel().dataType = dataType;
-        channelChanged(m_control.writeConfiguration(*m_object, m_selectedChannel));
+        channelChanged(m_control.writeConfiguration(*m_functionGen, m_selectedChannel));
     }
 }
 
@@ -353,7 +327,7 @@ void DialogFunctionGen::slotSeparation(int separation)
 {
     if (canEdit()) {
         channel().separation = separation;
-        channelChanged(m_control.writeConfiguration(*m_object, m_selectedChannel));
+        channelChanged(m_control.writeConfiguration(*m_functionGen, m_selectedChannel));
     }
 }
 
@@ -376,7 +350,7 @@ void DialogFunctionGen::slotFrequency(double frequency)
 {
     if (canEdit()) {
         channel().frequency = static_cast<float>(frequency);
-        channelChanged(m_control.writeSetting(*m_object, m_selectedChannel, Kind::Frequency));
+        channelChanged(m_control.writeSetting(*m_functionGen, m_selectedChannel, Kind::Frequency));
     }
 }
 
@@ -399,7 +373,7 @@ void DialogFunctionGen::slotAmplitude(double amplitude)
 {
     if (canEdit()) {
         channel().amplitude = static_cast<float>(amplitude);
-        channelChanged(m_control.writeSetting(*m_object, m_selectedChannel, Kind::Amplitude));
+        channelChanged(m_control.writeSetting(*m_functionGen, m_selectedChannel, Kind::Amplitude));
     }
 }
 
@@ -422,7 +396,7 @@ void DialogFunctionGen::slotOffset(double offset)
 {
     if (canEdit()) {
         channel().offset = static_cast<float>(offset);
-        channelChanged(m_control.writeSetting(*m_object, m_selectedChannel, Kind::Offset));
+        channelChanged(m_control.writeSetting(*m_functionGen, m_selectedChannel, Kind::Offset));
     }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "gui/controls/BusyCursor.h"
-#include "gui/frame/DialogBase.h"
+#include "gui/frame/DialogInput.h"
 #include "node/GeneratorControl.h"
 #include "project/ObjectFunctionGen.h"
 
@@ -11,16 +11,14 @@
 class QListWidgetItem;
 class QTabWidget;
 class QTimer;
-class WidgetHeader;
 
 namespace gui {
 
-class DialogFilter;
 class GeneratorNodePanel;
 class GeneratorPage;
 
 /// The operator's panel of a function generator on the bus.
-class DialogFunctionGen : public DialogBase
+class DialogFunctionGen : public DialogInput
 {
     Q_OBJECT
 
@@ -34,14 +32,12 @@ public:
     void updateDialog() override;
     void forceClose() override;
 
+protected:
+    std::optional<Input> input() override;
+
 private slots:
     void slotTimeout();
     void slotTimeoutFlash();
-    void slotInputOn(bool on);
-    void slotFilterSetup();
-    void slotFilterOn(bool on);
-    void slotSetup();
-    void slotInputInterface(const QString& name);
     void slotOutputInterface(const QString& name);
     void slotOutputOn(bool on);
     void slotSearch();
@@ -74,11 +70,9 @@ private:
 
     void build();
     QTabWidget* buildPages();
-    void connectHeader();
     void connectPanel();
     void connectPage(GeneratorPage& page);
 
-    bool canEdit() const { return m_object != nullptr && !m_filling; }
     Channel& channel();
     void showChannel();
     void showFlash();
@@ -90,17 +84,14 @@ private:
     /// What a change of the shown channel ends with.
     void channelChanged(MessageContainer batch);
 
-    ObjectFunctionGen* m_object;
+    ObjectFunctionGen* m_functionGen;
     GeneratorControl m_control;
     std::size_t m_selectedChannel = 0;
-    bool m_filling = false; ///< the controls are being set, and their signals mean nothing
     std::unique_ptr<BusyCursor> m_searchCursor;
 
-    WidgetHeader* m_header = nullptr;
     GeneratorNodePanel* m_panel = nullptr;
     QTabWidget* m_tabs = nullptr;
     std::array<GeneratorPage*, ObjectFunctionGen::signalCount> m_pages{};
-    DialogFilter* m_filterDialog = nullptr;
     QTimer* m_searchTimer;
     QTimer* m_flashTimer;
 };

@@ -1,6 +1,5 @@
 #include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
-#include "gui/frame/DialogFilter.h"
 #include "gui/frame/WidgetHeader.h"
 #include "gui/node/DialogFunctionGen.h"
 #include "gui/node/GeneratorNodePanel.h"
@@ -31,20 +30,20 @@ constexpr auto numberChanged =
 
 void DialogFunctionGen::build()
 {
-    m_header = new WidgetHeader(this);
-    m_header->setMode(WidgetHeader::Mode::Both);
+    header()->setMode(WidgetHeader::Mode::Both);
     m_panel = new GeneratorNodePanel(this);
     m_tabs = buildPages();
-    m_filterDialog = new DialogFilter(this);
     auto* parts = new QHBoxLayout;
     parts->addWidget(m_panel);
     parts->addWidget(m_tabs, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
     layout->setSpacing(windowMargin);
-    layout->addWidget(m_header);
+    layout->addWidget(header());
     layout->addLayout(parts, 1);
-    connectHeader();
+    connect(header(), &WidgetHeader::signalOutputInterface, this,
+            &DialogFunctionGen::slotOutputInterface);
+    connect(header(), &WidgetHeader::signalOutputOn, this, &DialogFunctionGen::slotOutputOn);
     connectPanel();
     for (GeneratorPage* page : m_pages) {
         connectPage(*page);
@@ -63,19 +62,6 @@ QTabWidget* DialogFunctionGen::buildPages()
         tabs->addTab(m_pages[i], icon("function-gen"), QStringLiteral("Channel %1").arg(i));
     }
     return tabs;
-}
-
-void DialogFunctionGen::connectHeader()
-{
-    connect(m_header, &WidgetHeader::signalInputOn, this, &DialogFunctionGen::slotInputOn);
-    connect(m_header, &WidgetHeader::signalFilterSetup, this, &DialogFunctionGen::slotFilterSetup);
-    connect(m_header, &WidgetHeader::signalFilterOn, this, &DialogFunctionGen::slotFilterOn);
-    connect(m_header, &WidgetHeader::signalSetup, this, &DialogFunctionGen::slotSetup);
-    connect(m_header, &WidgetHeader::signalInputInterface, this,
-            &DialogFunctionGen::slotInputInterface);
-    connect(m_header, &WidgetHeader::signalOutputInterface, this,
-            &DialogFunctionGen::slotOutputInterface);
-    connect(m_header, &WidgetHeader::signalOutputOn, this, &DialogFunctionGen::slotOutputOn);
 }
 
 void DialogFunctionGen::connectPanel()

@@ -24,6 +24,7 @@ namespace {
 constexpr int lastNode = static_cast<int>(generator::nodeCount) - 1;
 constexpr int listHeight = 60;   // pixels, at most
 constexpr int statusHeight = 20; // at least
+constexpr int buttonWidth = 54;
 constexpr QSize nodeIcon(22, 22);
 
 } // namespace
@@ -83,6 +84,10 @@ void GeneratorNodePanel::buildSettings(QGridLayout& grid)
     m_controls.setBaseId = makeButton("Set", "setBaseId");
     m_controls.setBaudrate = makeButton("Set", "setBaudrate");
     m_controls.flash = makeButton("Flash", "flash");
+    for (QPushButton* button :
+         {m_controls.setNodeId, m_controls.setBaseId, m_controls.setBaudrate, m_controls.flash}) {
+        button->setFixedWidth(buttonWidth);
+    }
     m_status = new StateLabel(this);
     m_status->setObjectName(QStringLiteral("flashStatus"));
     m_status->setMinimumHeight(statusHeight);
@@ -103,6 +108,7 @@ void GeneratorNodePanel::buildSettings(QGridLayout& grid)
     addRow("Store Data", nullptr, m_controls.flash);
     addRow("Set/Flash Status", nullptr, nullptr);
     grid.addWidget(m_status, grid.rowCount() - 1, 1, 1, 2);
+    grid.setVerticalSpacing(windowMargin);
 }
 
 void GeneratorNodePanel::showSearch(bool isSearching, std::uint32_t node)

@@ -1,5 +1,6 @@
 #include "gui/node/GeneratorPage.h"
 
+#include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "node/GeneratorScale.h"
 #include "node/GeneratorTables.h"
@@ -24,7 +25,8 @@ constexpr int dialColumn = 2;
 constexpr int numberColumn = 3;
 constexpr int allColumns = 3; // of controls
 constexpr double notchTarget = 30.0;
-constexpr int dialExtent = 64; // pixels; smaller ones can no longer be read
+constexpr int dialExtent = 52;   // pixels; smaller ones can no longer be read
+constexpr int numberWidth = 110; // at least; the widest number that a range has
 constexpr int minimumSeparation = 1;
 constexpr int maximumSeparation = 255; // milliseconds; one byte on the wire
 
@@ -53,6 +55,9 @@ GeneratorPage::GeneratorPage(QWidget* parent) : QWidget(parent)
     constexpr double largest = 1e9;
     constexpr int fullDial = 1000;
     auto* grid = new QGridLayout(this);
+    constexpr int margin = 2 * windowMargin;
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setVerticalSpacing(windowMargin);
     buildSettings(*grid);
     m_controls.frequency =
         addNumberRow(*grid, {"Frequency", "frequency", " Hz", generatorFrequencyRanges, 1, fullDial,
@@ -117,6 +122,9 @@ GeneratorPage::NumberRow GeneratorPage::addNumberRow(QGridLayout& grid, const Nu
     row.number->setRange(range.minimum, range.maximum);
     row.number->setSuffix(QLatin1String(range.suffix));
     row.number->setKeyboardTracking(false);
+    // By itself it wants room for the longest number with all decimals, which never meet.
+    row.number->setMinimumWidth(numberWidth);
+    row.number->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     const int line = grid.rowCount();
     grid.addWidget(new QLabel(QLatin1String(range.label), this), line, labelColumn);
     grid.addWidget(row.range, line, firstColumn);

@@ -21,7 +21,7 @@ namespace gui {
 namespace {
 
 constexpr std::array<std::uint32_t, 3> serviceChannels{4, 5, 6}; // NSC, UDC, TMC
-constexpr int codesShown = 28; // characters; the labels of function codes are up to 75 long
+constexpr int codesShown = 20; // characters; the labels of function codes are up to 75 long
 constexpr const char* firstStatusText = "Waiting on Response ...";
 
 QwtComboBox* makeCombo(const char* name)

@@ -11,7 +11,6 @@
 #include <QProgressBar>
 #include <QSpinBox>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace gui {
 
@@ -33,10 +32,10 @@ WidgetNsArincDus::WidgetNsArincDus(DialogNodeService& window, QWidget* parent)
     m_messageSeparation = addField(*answer, "Message Sep. :", "messageSeparation");
     m_blockSize = addField(*answer, "Block Size :", "blockSize");
     m_blockSeparation = addField(*answer, "Block Sep. :", "blockSeparation");
-    auto* layout = new QVBoxLayout(this);
+    // Side by side: one above the other they would not fit on a small screen.
+    auto* layout = new QHBoxLayout(this);
     layout->addWidget(transmit);
     layout->addWidget(receive);
-    layout->addStretch();
     refresh();
 }
 

@@ -2,8 +2,8 @@
 
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 namespace gui {
 
@@ -20,10 +20,10 @@ WidgetNsArincIds::WidgetNsArincIds(DialogNodeService& window, QWidget* parent)
     m_profileId = addField(*answer, "Profile ID :", "profileId");
     m_profileSubId = addField(*answer, "Profile Sub-ID :", "profileSubId");
     m_lruCode = addField(*answer, "LRU Code :", "lruCode");
-    auto* layout = new QVBoxLayout(this);
+    // Side by side: one above the other they would not fit on a small screen.
+    auto* layout = new QHBoxLayout(this);
     layout->addWidget(transmit);
     layout->addWidget(receive);
-    layout->addStretch();
     refresh();
 }
 

@@ -18,7 +18,6 @@ namespace {
 using CellFont = ReceiveColumnTexts::Font;
 
 constexpr QSize stateIconSize(16, 14);
-constexpr int boldWeight = 75;
 constexpr int cellMargins = 8;
 constexpr int payloadFontPixels = 11;
 constexpr int arincHeaderFontPixels = 12;

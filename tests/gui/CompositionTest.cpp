@@ -6,6 +6,8 @@
 #include "gui/measure/DialogDial.h"
 #include "gui/measure/DialogGraph.h"
 #include "gui/measure/DialogStatistic.h"
+#include "gui/node/DialogFunctionGen.h"
+#include "gui/node/DialogNodeService.h"
 #include "gui/traffic/DialogReceive.h"
 #include "gui/traffic/DialogReplay.h"
 #include "gui/traffic/DialogStatus.h"
@@ -21,7 +23,6 @@
 
 #include <gtest/gtest.h>
 #include <memory>
-#include <set>
 
 // The program's types with the windows that the program gives them.
 
@@ -104,17 +105,22 @@ TEST_F(Composition, StatisticObjectMakesAStatisticWindow)
     expectWindow<gui::DialogStatistic>(ObjectType::Statistic, "CAN Statistic");
 }
 
-TEST_F(Composition, EveryTypeHasAnIconAndThoseWithoutAWindowMakeNone)
+TEST_F(Composition, NodeServiceObjectMakesANodeServiceWindow)
 {
-    const std::set<ObjectType> withWindow{
-        ObjectType::CanInterface, ObjectType::Receive, ObjectType::Trace, ObjectType::Replay,
-        ObjectType::Transmit,     ObjectType::Graph,   ObjectType::Dial,  ObjectType::Statistic};
+    expectWindow<gui::DialogNodeService>(ObjectType::NodeService, "Node Service Window");
+}
+
+TEST_F(Composition, FunctionGenObjectMakesAGeneratorPanel)
+{
+    expectWindow<gui::DialogFunctionGen>(ObjectType::FunctionGen, "Function Gen. Control");
+}
+
+TEST_F(Composition, EveryTypeHasAnIconAndAWindow)
+{
     EXPECT_EQ(m_project.types().size(), 10U);
     for (const auto& [type, info] : m_project.types()) {
         EXPECT_FALSE(info.icon.isNull()) << static_cast<int>(type);
-        if (withWindow.count(type) == 0) {
-            EXPECT_EQ(windowOf(*m_project.createObject(type)), nullptr) << static_cast<int>(type);
-        }
+        EXPECT_NE(windowOf(*m_project.createObject(type)), nullptr) << static_cast<int>(type);
     }
 }
 

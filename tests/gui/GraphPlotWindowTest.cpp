@@ -71,12 +71,48 @@ TEST_F(GraphPlotWindow, SnapshotHasThePlotInIt)
     EXPECT_TRUE(m_home.read(QStringLiteral("scope.bmp")).startsWith("BM"));
 }
 
-TEST_F(GraphPlotWindow, KeysOfThePlotMoveTheButtons)
+TEST_F(GraphPlotWindow, KeysOfThePlotMoveTheButtonsAndAreKept)
 {
     m_plot->setFocus();
-    QTest::keyClick(m_plot, Qt::Key_F2);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return command(GraphCommand::SingleMode).isChecked(); }));
+    m_project.save(QString());
+    const auto key = [this](Qt::Key pressed) { QTest::keyClick(m_plot, pressed); };
+    key(Qt::Key_F2);
+    EXPECT_TRUE(command(GraphCommand::SingleMode).isChecked());
     EXPECT_FALSE(command(GraphCommand::SplitMode).isChecked());
+    EXPECT_EQ(graph().splitMode, 0);
+    EXPECT_TRUE(m_project.isEdited());
+    key(Qt::Key_F3);
+    EXPECT_TRUE(command(GraphCommand::SplitMode).isChecked());
+    EXPECT_EQ(graph().splitMode, 1);
+    key(Qt::Key_Z);
+    EXPECT_EQ(command(GraphCommand::AutoMode).text(), QStringLiteral("Man"));
+    EXPECT_EQ(graph().autoMode, 0);
+    EXPECT_EQ(graph().xRange, 1.0);
+    key(Qt::Key_A);
+    EXPECT_EQ(command(GraphCommand::AutoMode).text(), QStringLiteral("Auto"));
+    EXPECT_EQ(graph().autoMode, 1);
+    key(Qt::Key_X);
+    EXPECT_EQ(graph().xRange, 60.0);
+    key(Qt::Key_Z);
+    key(Qt::Key_R);
+    EXPECT_EQ(graph().autoMode, 1);
+    EXPECT_EQ(graph().splitMode, 0);
+    EXPECT_EQ(graph().xRange, 60.0);
+    EXPECT_TRUE(command(GraphCommand::SingleMode).isChecked());
+    graph().cursorMode = 0;
+    m_dialog->updateDialog();
+    key(Qt::Key_C);
+    EXPECT_EQ(graph().cursorMode, 1);
+}
+
+TEST_F(GraphPlotWindow, KeysThatChangeNothingLeaveTheProjectAsItWas)
+{
+    m_plot->setFocus();
+    m_project.save(QString());
+    QTest::keyClick(m_plot, Qt::Key_F3);
+    QTest::keyClick(m_plot, Qt::Key_A);
+    QTest::keyClick(m_plot, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_FALSE(m_project.isEdited());
 }
 
 } // namespace

@@ -378,15 +378,17 @@ TEST_F(GraphWindow, HeldZoomButtonsChangeTheRangeStepByStep)
     EXPECT_TRUE(m_project.isEdited());
 }
 
-TEST_F(GraphWindow, ZoomMarkerGoesToManualModeAndTheButtonFollows)
+TEST_F(GraphWindow, ZoomMarkerGoesToManualModeWhichButtonAndObjectShow)
 {
     m_dialog->show();
     click(GraphCommand::ZoomMarker);
     EXPECT_EQ(state().xMax - state().xMin, 1.0);
     EXPECT_EQ(state().autoMode, 0);
-    EXPECT_EQ(graph().autoMode, 1);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return command(GraphCommand::AutoMode).text() == QStringLiteral("Man"); }));
+    EXPECT_EQ(graph().autoMode, 0);
+    EXPECT_EQ(graph().xRange, 1.0);
+    EXPECT_EQ(command(GraphCommand::AutoMode).text(), QStringLiteral("Man"));
+    EXPECT_FALSE(command(GraphCommand::AutoMode).isChecked());
+    EXPECT_TRUE(m_project.isEdited());
 }
 
 TEST_F(GraphWindow, ClearAllEmptiesTheSamples)

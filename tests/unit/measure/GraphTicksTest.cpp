@@ -3,6 +3,8 @@
 #include <cmath>
 #include <gmock/gmock.h>
 #include <limits>
+#include <set>
+#include <string>
 
 namespace {
 
@@ -207,12 +209,38 @@ TEST(ValueDecimals, FollowTheStep)
     EXPECT_EQ(valueDecimals(0.002F), 3);
 }
 
-TEST(ValueLabel, OfTooManyDigitsIsShort)
+TEST(ValueLabel, HasTheDecimalsOfItsAxisUpToFortyLetters)
 {
     EXPECT_EQ(valueLabel(-12.5, 1), "-12.5");
-    EXPECT_EQ(valueLabel(1e30, 0), "1e+30");
-    EXPECT_EQ(valueLabel(2e-40, 42), "2e-40");
     EXPECT_EQ(valueLabel(1e-10, 11), "0.00000000010");
+    EXPECT_EQ(valueLabel(12'345'678'901'234'567.0, 0), "12345678901234568");
+    EXPECT_EQ(valueLabel(1.0, 38), "1." + std::string(38, '0'));
+    EXPECT_EQ(valueLabel(1.0, 39), "1");
+}
+
+TEST(ValueLabel, OfMoreLettersIsShortAndTellsItsNumberFromAllOthers)
+{
+    EXPECT_EQ(valueLabel(1e45, 0), "1e+45");
+    EXPECT_EQ(valueLabel(2e-40, 42), "2e-40");
+    const double most = std::numeric_limits<double>::max();
+    EXPECT_EQ(valueLabel(most, 0), "1.7976931348623157e+308");
+    EXPECT_EQ(valueLabel(-most, 300), "-1.7976931348623157e+308");
+    EXPECT_NE(valueLabel(std::nextafter(1e45, most), 0), valueLabel(1e45, 0));
+}
+
+TEST(ValueLabel, OfNeighboursFarFromZeroDiffer)
+{
+    GraphTicks ticks;
+    for (const double far : {1e6, 123'456'789.0, 1e12}) {
+        const NiceStep step = niceStep(1.0, 300.0, valueTickPixels);
+        valueTicks(step, far, far + 1.0, ticks);
+        std::set<std::string> labels;
+        for (const double tick : ticks.major) {
+            labels.insert(valueLabel(tick, valueDecimals(step.step)));
+        }
+        EXPECT_EQ(labels.size(), ticks.major.size()) << far;
+        EXPECT_GT(labels.size(), 5U) << far;
+    }
 }
 
 } // namespace

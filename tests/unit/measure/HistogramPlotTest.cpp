@@ -1,5 +1,6 @@
 #include "measure/BusLoadHistogram.h"
 #include "measure/BusLoadPlot.h"
+#include "measure/Milliseconds.h"
 #include "measure/SpreadHistogram.h"
 #include "measure/SpreadPlot.h"
 
