@@ -20,6 +20,8 @@ namespace gui {
 
 namespace {
 
+constexpr QSize tabIcon(12, 12); // so that all four titles stand beside each other
+
 constexpr auto comboActivated =
     static_cast<void (QwtComboBox::*)(int)>(&QwtComboBox::signalActivated);
 constexpr auto spinChanged = static_cast<void (QSpinBox::*)(int)>(&QSpinBox::valueChanged);
@@ -34,6 +36,7 @@ void DialogFunctionGen::build()
     m_panel = new GeneratorNodePanel(this);
     m_tabs = buildPages();
     auto* parts = new QHBoxLayout;
+    parts->setSpacing(windowMargin);
     parts->addWidget(m_panel);
     parts->addWidget(m_tabs, 1);
     auto* layout = new QVBoxLayout(this);
@@ -57,6 +60,7 @@ QTabWidget* DialogFunctionGen::buildPages()
 {
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName(QStringLiteral("channels"));
+    tabs->setIconSize(tabIcon);
     for (std::size_t i = 0; i < m_pages.size(); ++i) {
         m_pages[i] = new GeneratorPage;
         tabs->addTab(m_pages[i], icon("function-gen"), QStringLiteral("Channel %1").arg(i));

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace gui {
 
@@ -24,7 +25,8 @@ namespace {
 constexpr int lastNode = static_cast<int>(generator::nodeCount) - 1;
 constexpr int listHeight = 60;   // pixels, at most
 constexpr int statusHeight = 20; // at least
-constexpr int buttonWidth = 54;
+constexpr int buttonWidth = 48;
+constexpr int entryWidth = 92; // at least; nine digits
 constexpr QSize nodeIcon(22, 22);
 
 } // namespace
@@ -34,6 +36,7 @@ GeneratorNodePanel::GeneratorNodePanel(QWidget* parent) : QWidget(parent)
     buildSearch();
     auto* settings = new QGridLayout;
     buildSettings(*settings);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_searchStack);
@@ -57,6 +60,7 @@ void GeneratorNodePanel::buildSearch()
     m_controls.nodes = new QListWidget(this);
     m_controls.nodes->setObjectName(QStringLiteral("nodes"));
     m_controls.nodes->setMaximumHeight(listHeight);
+    m_controls.nodes->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     m_controls.nodes->setIconSize(nodeIcon);
 }
 

@@ -26,7 +26,7 @@ constexpr int numberColumn = 3;
 constexpr int allColumns = 3; // of controls
 constexpr double notchTarget = 30.0;
 constexpr int dialExtent = 52;   // pixels; smaller ones can no longer be read
-constexpr int numberWidth = 110; // at least; the widest number that a range has
+constexpr int numberWidth = 104; // at least; the widest number that a range has
 constexpr int minimumSeparation = 1;
 constexpr int maximumSeparation = 255; // milliseconds; one byte on the wire
 
@@ -55,8 +55,7 @@ GeneratorPage::GeneratorPage(QWidget* parent) : QWidget(parent)
     constexpr double largest = 1e9;
     constexpr int fullDial = 1000;
     auto* grid = new QGridLayout(this);
-    constexpr int margin = 2 * windowMargin;
-    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
     grid->setVerticalSpacing(windowMargin);
     buildSettings(*grid);
     m_controls.frequency =
