@@ -10,6 +10,13 @@ constexpr int serviceCodeAt = 2;
 constexpr int resultAt = 3;
 constexpr int dataAt = 4;
 
+bool isReply(const zul::MessageCan& frame)
+{
+    return frame.id() == generator::replyId &&
+           frame.mode() == zul::MessageCan::EMsgMode::Standard &&
+           frame.frameType() == zul::MessageCan::EFrameType::Data;
+}
+
 MessageContainer emptyBatch(const ObjectFunctionGen& object)
 {
     MessageContainer batch;
@@ -112,8 +119,7 @@ GeneratorControl::Update GeneratorControl::receive(const MessageContainer& batch
             continue;
         }
         ++m_received;
-        if (areRepliesTaken && frame->id() == generator::replyId &&
-            frame->frameType() != zul::MessageCan::EFrameType::Error) {
+        if (areRepliesTaken && isReply(*frame)) {
             takeReply(*frame, update);
         }
     }

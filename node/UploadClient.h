@@ -41,7 +41,7 @@ public:
     static constexpr const char* fileDialogFilter = "All Files (*.*)";
     static constexpr int maxDestinationId = 65535;
     /// A larger file is not sent: its frames take about 25 times its size in memory.
-    static constexpr qint64 maxFileBytes = 64LL * 1024 * 1024;
+    static constexpr qint64 maxFileBytes = 32LL * 1024 * 1024;
 
     /// `link` outlives the client.
     explicit UploadClient(ServiceLink& link);

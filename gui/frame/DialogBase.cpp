@@ -34,6 +34,11 @@ DialogBase::DialogBase(Object* object, QWidget* parent)
 
 DialogBase::~DialogBase()
 {
+    // Controls that are hidden on their way out tell what was half typed into them; the derived
+    // class that would hear it has gone.
+    for (QObject* child : findChildren<QObject*>()) {
+        disconnect(child, nullptr, this, nullptr);
+    }
     detach();
 }
 

@@ -1,6 +1,8 @@
 #include "gui/frame/FileDialogs.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
 
 #include <optional>
 
@@ -36,13 +38,36 @@ QString choose(const QString& title, const QString& filter, const QString& path,
     return chooser();
 }
 
+// The chosen path. The dialog is on the heap: its parent may go, with all its children, while it is
+// open.
+QString run(const QPointer<QFileDialog>& dialog, const QString& path)
+{
+    if (QFileInfo(path).isDir()) {
+        dialog->setDirectory(path);
+    } else if (!path.isEmpty()) {
+        dialog->selectFile(path);
+    }
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    QString chosen;
+    if (dialog != nullptr) {
+        if (isAccepted) {
+            chosen = dialog->selectedFiles().value(0);
+        }
+        delete dialog;
+    }
+    return chosen;
+}
+
 } // namespace
 
 QString FileDialogs::openFile(QWidget* parent, const QString& title, const QString& filter,
                               const QString& path)
 {
-    return choose(title, filter, path,
-                  [&] { return QFileDialog::getOpenFileName(parent, title, path, filter); });
+    return choose(title, filter, path, [&] {
+        const QPointer<QFileDialog> dialog = new QFileDialog(parent, title, QString(), filter);
+        dialog->setFileMode(QFileDialog::ExistingFile);
+        return run(dialog, path);
+    });
 }
 
 QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QString& filter,
@@ -50,14 +75,11 @@ QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QStri
 {
     return choose(title, filter, path, [&] {
         // The static chooser knows no suffix: it would ask about one name, and another be written.
-        QFileDialog dialog(parent, title, QString(), filter);
-        dialog.setAcceptMode(QFileDialog::AcceptSave);
-        dialog.setFileMode(QFileDialog::AnyFile);
-        dialog.setDefaultSuffix(defaultSuffix);
-        if (!path.isEmpty()) {
-            dialog.selectFile(path);
-        }
-        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+        const QPointer<QFileDialog> dialog = new QFileDialog(parent, title, QString(), filter);
+        dialog->setAcceptMode(QFileDialog::AcceptSave);
+        dialog->setFileMode(QFileDialog::AnyFile);
+        dialog->setDefaultSuffix(defaultSuffix);
+        return run(dialog, path);
     });
 }
 

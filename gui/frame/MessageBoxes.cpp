@@ -2,7 +2,10 @@
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace gui {
 
@@ -48,25 +51,30 @@ MessageBoxes::ask(QWidget* parent, QMessageBox::Icon icon, const QString& title,
         state().nextAnswer.reset();
         return answer;
     }
-    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
-    box.setTextFormat(Qt::PlainText);
+    // On the heap: the parent may go, with all its children, while the box is open.
+    const QPointer<QMessageBox> box =
+        new QMessageBox(icon, title, text, QMessageBox::NoButton, parent);
+    box->setTextFormat(Qt::PlainText);
     // One role for all: a desktop's own order of roles would move the buttons.
     std::vector<QPushButton*> made;
     made.reserve(buttons.size());
     for (const auto button : buttons) {
-        made.push_back(box.addButton(buttonText(button), QMessageBox::ActionRole));
+        made.push_back(box->addButton(buttonText(button), QMessageBox::ActionRole));
     }
     if (!made.empty()) {
-        box.setDefaultButton(made.front());
-        box.setEscapeButton(made.back());
+        box->setDefaultButton(made.front());
+        box->setEscapeButton(made.back());
     }
-    box.exec();
-    for (std::size_t i = 0; i < made.size(); ++i) {
-        if (box.clickedButton() == made[i]) {
-            return buttons[i];
+    box->exec();
+    auto answer = buttons.empty() ? QMessageBox::NoButton : buttons.back();
+    if (box != nullptr) {
+        const auto clicked = std::find(made.begin(), made.end(), box->clickedButton());
+        if (clicked != made.end()) {
+            answer = buttons[static_cast<std::size_t>(clicked - made.begin())];
         }
+        delete box;
     }
-    return buttons.empty() ? QMessageBox::NoButton : buttons.back();
+    return answer;
 }
 
 void MessageBoxes::setNextAnswer(QMessageBox::StandardButton answer)

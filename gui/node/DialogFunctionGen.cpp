@@ -32,7 +32,7 @@ DialogFunctionGen::DialogFunctionGen(ObjectFunctionGen* object, QWidget* parent)
     m_flashTimer->setSingleShot(true);
     m_flashTimer->setInterval(GeneratorControl::flashTimeoutMs);
     build();
-    updateDialog();
+    showSettings();
     showFlash();
     resize(sizeHint());
 }
@@ -62,6 +62,11 @@ void DialogFunctionGen::forceClose()
 }
 
 void DialogFunctionGen::updateDialog()
+{
+    showSettings();
+}
+
+void DialogFunctionGen::showSettings()
 {
     if (m_functionGen == nullptr) {
         return;

@@ -74,6 +74,7 @@ private:
     void connectPage(GeneratorPage& page);
 
     Channel& channel();
+    void showSettings();
     void showChannel();
     void showFlash();
     void endSearch();

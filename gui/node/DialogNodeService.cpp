@@ -18,9 +18,9 @@ namespace gui {
 
 namespace {
 
-// Numbers of the services in ARINC 825.
-constexpr std::int32_t identificationService = 0;
-constexpr std::int32_t uploadService = 3;
+// Values of the list of services; on the bus they have other numbers.
+constexpr std::int32_t identificationChoice = 0;
+constexpr std::int32_t uploadChoice = 3;
 
 // Pages of the stack.
 constexpr int missingPage = 2;
@@ -28,9 +28,9 @@ constexpr int missingPage = 2;
 int pageOf(std::int32_t service)
 {
     switch (service) {
-    case identificationService:
+    case identificationChoice:
         return 0;
-    case uploadService:
+    case uploadChoice:
         return 1;
     default:
         return missingPage;
@@ -50,7 +50,7 @@ DialogNodeService::DialogNodeService(ObjectNodeService* object, QWidget* parent)
     : DialogBase(object, parent), m_nodeService(object)
 {
     build();
-    updateDialog();
+    showSettings();
     resize(minimumSizeHint());
 }
 
@@ -77,8 +77,8 @@ QWidget* DialogNodeService::buildArinc825()
     auto* page = new QWidget;
     m_services = new QwtComboBox(0, page);
     m_services->setObjectName(QStringLiteral("services"));
-    m_services->addItem(QStringLiteral("IDS Identification Service"), identificationService);
-    m_services->addItem(QStringLiteral("DUS Data Upload Service"), uploadService);
+    m_services->addItem(QStringLiteral("IDS Identification Service"), identificationChoice);
+    m_services->addItem(QStringLiteral("DUS Data Upload Service"), uploadChoice);
     m_pages = new QStackedWidget(page);
     m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->addWidget(new WidgetNsArincIds(*this));
@@ -99,6 +99,11 @@ void DialogNodeService::setObject(Object* object)
 }
 
 void DialogNodeService::updateDialog()
+{
+    showSettings();
+}
+
+void DialogNodeService::showSettings()
 {
     if (m_nodeService != nullptr) {
         const QString& name = m_nodeService->settings().outputInterface;

@@ -39,6 +39,7 @@ private slots:
 private:
     void build();
     QWidget* buildArinc825();
+    void showSettings();
 
     ObjectNodeService* m_nodeService;
     std::int32_t m_service = 0; ///< number of the selected service

@@ -76,9 +76,11 @@ void GeneratorNodePanel::buildSettings(QGridLayout& grid)
     m_controls.nodeId = new QSpinBox(this);
     m_controls.nodeId->setObjectName(QStringLiteral("nodeId"));
     m_controls.nodeId->setRange(0, lastNode);
+    m_controls.nodeId->setKeyboardTracking(false); // half a number would be another node
     m_controls.baseId = new QSpinBox(this);
     m_controls.baseId->setObjectName(QStringLiteral("baseId"));
     m_controls.baseId->setRange(0, static_cast<int>(zul::arinc825::maxExtendedId));
+    m_controls.baseId->setKeyboardTracking(false);
     m_controls.baudrate = new QwtComboBox(0, this);
     m_controls.baudrate->setObjectName(QStringLiteral("baudrate"));
     for (const GeneratorChoice& choice : generatorBaudrates) {
@@ -115,14 +117,14 @@ void GeneratorNodePanel::buildSettings(QGridLayout& grid)
     grid.setVerticalSpacing(windowMargin);
 }
 
-void GeneratorNodePanel::showSearch(bool isSearching, std::uint32_t node)
+void GeneratorNodePanel::showSearch(bool isSearching, std::uint32_t node) const
 {
     m_searchStack->setCurrentWidget(isSearching ? static_cast<QWidget*>(m_progress)
                                                 : m_controls.search);
     m_progress->setValue(std::min(static_cast<int>(node), lastNode));
 }
 
-void GeneratorNodePanel::showFound(const std::vector<GeneratorControl::Found>& found)
+void GeneratorNodePanel::showFound(const std::vector<GeneratorControl::Found>& found) const
 {
     const QIcon picture = icon("function-gen");
     m_controls.nodes->clear();
@@ -135,14 +137,14 @@ void GeneratorNodePanel::showFound(const std::vector<GeneratorControl::Found>& f
     }
 }
 
-void GeneratorNodePanel::showGenerator(const ObjectFunctionGen::Generator& generator)
+void GeneratorNodePanel::showGenerator(const ObjectFunctionGen::Generator& generator) const
 {
     m_controls.nodeId->setValue(generator.nodeId);
     m_controls.baseId->setValue(generator.nodeBaseId);
     m_controls.baudrate->setData(generator.baudrate);
 }
 
-void GeneratorNodePanel::showFlash(const StateLook& look, bool isWaiting)
+void GeneratorNodePanel::showFlash(const StateLook& look, bool isWaiting) const
 {
     m_status->showLook(look);
     for (QPushButton* button :

@@ -48,11 +48,11 @@ public:
     const Controls& controls() const { return m_controls; }
 
     /// The progress bar instead of the search button; `node` is the next to be asked.
-    void showSearch(bool isSearching, std::uint32_t node);
-    void showFound(const std::vector<GeneratorControl::Found>& found);
-    void showGenerator(const ObjectFunctionGen::Generator& generator);
+    void showSearch(bool isSearching, std::uint32_t node) const;
+    void showFound(const std::vector<GeneratorControl::Found>& found) const;
+    void showGenerator(const ObjectFunctionGen::Generator& generator) const;
     /// The state of the last request, which nothing else may follow while it waits.
-    void showFlash(const StateLook& look, bool isWaiting);
+    void showFlash(const StateLook& look, bool isWaiting) const;
 
 private:
     void buildSearch();

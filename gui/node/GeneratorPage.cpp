@@ -42,7 +42,11 @@ void addChoices(QwtComboBox& combo, const std::array<GeneratorChoice, Size>& cho
 void showNumber(const GeneratorPage::NumberRow& row, std::int32_t exponent, float number)
 {
     row.range->setData(exponent);
-    row.dial->setValue(dialPosition(number, exponent));
+    // A dial that stands for the number stays: single precision may show it one step lower, and the
+    // hand that turns it would never get past that place.
+    if (dialNumber(row.dial->value(), exponent) != number) {
+        row.dial->setValue(dialPosition(number, exponent));
+    }
     row.number->setDecimals(rangeDecimals(exponent)); // first: it rounds what stands there
     row.number->setSingleStep(rangeStep(exponent));
     row.number->setValue(static_cast<double>(number));
@@ -132,7 +136,7 @@ GeneratorPage::NumberRow GeneratorPage::addNumberRow(QGridLayout& grid, const Nu
     return row;
 }
 
-void GeneratorPage::showChannel(const ObjectFunctionGen::GeneratorChannel& channel)
+void GeneratorPage::showChannel(const ObjectFunctionGen::GeneratorChannel& channel) const
 {
     m_controls.active->setChecked(channel.active);
     m_controls.waveform->setData(channel.waveForm);

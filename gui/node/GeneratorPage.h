@@ -44,7 +44,7 @@ public:
     explicit GeneratorPage(QWidget* parent = nullptr);
 
     const Controls& controls() const { return m_controls; }
-    void showChannel(const ObjectFunctionGen::GeneratorChannel& channel);
+    void showChannel(const ObjectFunctionGen::GeneratorChannel& channel) const;
 
 private:
     struct NumberRange

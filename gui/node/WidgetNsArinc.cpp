@@ -10,6 +10,8 @@
 
 #include <QCheckBox>
 #include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTimer>
@@ -69,7 +71,18 @@ void WidgetNsArinc::stopTimer()
     m_timer->stop();
 }
 
-void WidgetNsArinc::addAddressRows(QFormLayout& form)
+WidgetNsArinc::Groups WidgetNsArinc::buildGroups()
+{
+    auto* transmit = new QGroupBox(QStringLiteral("Transmit"), this);
+    auto* receive = new QGroupBox(QStringLiteral("Receive"), this);
+    // Side by side: one above the other they would not fit on a small screen.
+    auto* layout = new QHBoxLayout(this);
+    layout->addWidget(transmit);
+    layout->addWidget(receive);
+    return {new QFormLayout(transmit), new QFormLayout(receive)};
+}
+
+void WidgetNsArinc::addAddressRows(QFormLayout& form) const
 {
     QwtComboBox* channel = makeCombo("lcc");
     for (const std::uint32_t lcc : serviceChannels) {
@@ -103,7 +116,7 @@ void WidgetNsArinc::addAddressRows(QFormLayout& form)
     connect(redundancy, activated, this, &WidgetNsArinc::slotRci);
 }
 
-void WidgetNsArinc::addSendButton(QFormLayout& form)
+void WidgetNsArinc::addSendButton(QFormLayout& form) const
 {
     auto* send = new QwtPushButton(QStringLiteral("Send"), colors::addOrSend);
     send->setObjectName(QStringLiteral("send"));

@@ -48,9 +48,17 @@ protected:
     /// The request's fields, which the controls write.
     virtual ServiceAddress& address() = 0;
 
+    /// The forms of the two groups of a page.
+    struct Groups
+    {
+        QFormLayout* transmit;
+        QFormLayout* receive;
+    };
+
+    Groups buildGroups();
     /// Adds the rows of the fields; the address must be there.
-    void addAddressRows(QFormLayout& form);
-    void addSendButton(QFormLayout& form);
+    void addAddressRows(QFormLayout& form) const;
+    void addSendButton(QFormLayout& form) const;
     /// Adds the label that `showLook` sets.
     void addStatusLabel(QFormLayout& form);
     /// Adds a field that only shows.

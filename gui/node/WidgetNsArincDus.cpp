@@ -4,7 +4,6 @@
 #include "gui/frame/FileDialogs.h"
 
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPointer>
@@ -17,25 +16,18 @@ namespace gui {
 WidgetNsArincDus::WidgetNsArincDus(DialogNodeService& window, QWidget* parent)
     : WidgetNsArinc(window, parent), m_client(*this)
 {
-    auto* transmit = new QGroupBox(QStringLiteral("Transmit"), this);
-    auto* request = new QFormLayout(transmit);
-    addAddressRows(*request);
-    addFileRows(*request);
-    addSendButton(*request);
-    auto* receive = new QGroupBox(QStringLiteral("Receive"), this);
-    auto* answer = new QFormLayout(receive);
-    addStatusLabel(*answer);
+    const Groups groups = buildGroups();
+    addAddressRows(*groups.transmit);
+    addFileRows(*groups.transmit);
+    addSendButton(*groups.transmit);
+    addStatusLabel(*groups.receive);
     m_progress = new QProgressBar;
     m_progress->setObjectName(QStringLiteral("progress"));
-    answer->addRow(QStringLiteral("Progress :"), m_progress);
-    m_responseCode = addField(*answer, "Response Code :", "responseCode");
-    m_messageSeparation = addField(*answer, "Message Sep. :", "messageSeparation");
-    m_blockSize = addField(*answer, "Block Size :", "blockSize");
-    m_blockSeparation = addField(*answer, "Block Sep. :", "blockSeparation");
-    // Side by side: one above the other they would not fit on a small screen.
-    auto* layout = new QHBoxLayout(this);
-    layout->addWidget(transmit);
-    layout->addWidget(receive);
+    groups.receive->addRow(QStringLiteral("Progress :"), m_progress);
+    m_responseCode = addField(*groups.receive, "Response Code :", "responseCode");
+    m_messageSeparation = addField(*groups.receive, "Message Sep. :", "messageSeparation");
+    m_blockSize = addField(*groups.receive, "Block Size :", "blockSize");
+    m_blockSeparation = addField(*groups.receive, "Block Sep. :", "blockSeparation");
     refresh();
 }
 

@@ -1,8 +1,6 @@
 #include "gui/node/WidgetNsArincIds.h"
 
 #include <QFormLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLineEdit>
 
 namespace gui {
@@ -10,20 +8,13 @@ namespace gui {
 WidgetNsArincIds::WidgetNsArincIds(DialogNodeService& window, QWidget* parent)
     : WidgetNsArinc(window, parent), m_client(*this)
 {
-    auto* transmit = new QGroupBox(QStringLiteral("Transmit"), this);
-    auto* request = new QFormLayout(transmit);
-    addAddressRows(*request);
-    addSendButton(*request);
-    auto* receive = new QGroupBox(QStringLiteral("Receive"), this);
-    auto* answer = new QFormLayout(receive);
-    addStatusLabel(*answer);
-    m_profileId = addField(*answer, "Profile ID :", "profileId");
-    m_profileSubId = addField(*answer, "Profile Sub-ID :", "profileSubId");
-    m_lruCode = addField(*answer, "LRU Code :", "lruCode");
-    // Side by side: one above the other they would not fit on a small screen.
-    auto* layout = new QHBoxLayout(this);
-    layout->addWidget(transmit);
-    layout->addWidget(receive);
+    const Groups groups = buildGroups();
+    addAddressRows(*groups.transmit);
+    addSendButton(*groups.transmit);
+    addStatusLabel(*groups.receive);
+    m_profileId = addField(*groups.receive, "Profile ID :", "profileId");
+    m_profileSubId = addField(*groups.receive, "Profile Sub-ID :", "profileSubId");
+    m_lruCode = addField(*groups.receive, "LRU Code :", "lruCode");
     refresh();
 }
 

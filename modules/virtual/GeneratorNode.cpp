@@ -37,6 +37,13 @@ constexpr std::uint32_t configurationKind = 4;
 
 constexpr std::uint8_t activeFlag = 0x01;
 
+/// Whether its five identifiers are standard ones and none is that of requests or replies.
+bool isBaseId(std::uint32_t id)
+{
+    const bool meetsServices = id <= replyId && id + configurationKind >= requestId;
+    return id <= GeneratorNode::maxBaseId && !meetsServices;
+}
+
 float floatAt(const BusFrame& frame, std::size_t offset)
 {
     const std::uint32_t pattern = bigEndian32(frame, offset);
@@ -185,7 +192,7 @@ bool GeneratorNode::carryOut(const BusFrame& request)
         m_state.nodeId = request.data.at(3);
         return true;
     case setBaseId:
-        if (request.byteCount < wholeFrame || bigEndian32(request, headBytes) > maxBaseId) {
+        if (request.byteCount < wholeFrame || !isBaseId(bigEndian32(request, headBytes))) {
             return false;
         }
         m_state.baseId = bigEndian32(request, headBytes);

@@ -2,8 +2,11 @@
 
 #include "modules/virtual/BusFrame.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstring>
+#include <limits>
 
 namespace canvirtual {
 
@@ -33,10 +36,12 @@ inline std::uint32_t bigEndian32(const BusFrame& frame, std::size_t offset)
     return value;
 }
 
-/// IEEE 754 single precision.
+/// IEEE 754 single precision; a finite number beyond it becomes the largest one.
 inline void putFloat(BusFrame& frame, std::size_t offset, double value)
 {
-    const auto single = static_cast<float>(value);
+    constexpr double largest = std::numeric_limits<float>::max();
+    const double held = std::isfinite(value) ? std::clamp(value, -largest, largest) : value;
+    const auto single = static_cast<float>(held);
     std::uint32_t pattern = 0;
     std::memcpy(&pattern, &single, sizeof(pattern));
     putBigEndian32(frame, offset, pattern);

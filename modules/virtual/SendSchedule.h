@@ -14,8 +14,8 @@ namespace canvirtual {
 class SendSchedule
 {
 public:
-    /// Frames of a file of 32 MiB, and some 370 MB in memory.
-    static constexpr std::size_t usualCapacity = 4'194'304;
+    /// Somewhat more than the frames of a file of 32 MiB; some 370 MB when full.
+    static constexpr std::size_t usualCapacity = 4'200'000;
 
     explicit SendSchedule(std::size_t capacity = usualCapacity) : m_capacity(capacity) {}
 

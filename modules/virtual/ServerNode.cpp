@@ -2,11 +2,17 @@
 
 #include "modules/virtual/Payload.h"
 
+#include <algorithm>
+
 namespace canvirtual {
 
 namespace {
 
 // Bits of an identifier on the service channels.
+constexpr std::uint32_t channelShift = 26;
+constexpr std::uint32_t channelMask = 7;
+constexpr std::uint32_t firstChannel = 4; // NSC
+constexpr std::uint32_t lastChannel = 6;  // TMC
 constexpr std::uint32_t requestBit = 1U << 18U;
 constexpr std::uint32_t privateBit = 1U << 16U;
 
@@ -21,10 +27,12 @@ constexpr std::uint32_t errorBytes = 4; // as many as no client takes for an ACK
 constexpr std::uint8_t refusalCode = 1;
 constexpr std::uint8_t confirmed = 1;
 
-bool isServiceRequest(const BusFrame& frame)
+/// On other channels the request's bit means something else.
+bool isFromClient(const BusFrame& frame)
 {
+    const std::uint32_t channel = frame.id >> channelShift & channelMask;
     return frame.type == FrameType::Data && frame.mode == FrameMode::Extended &&
-           (frame.id & requestBit) != 0;
+           channel >= firstChannel && channel <= lastChannel && (frame.id & requestBit) != 0;
 }
 
 std::uint32_t bigEndian16(const BusFrame& frame, std::size_t offset)
@@ -46,13 +54,21 @@ ServerNode::ServerNode(const NodeSettings& settings)
 {
 }
 
-BusTime ServerNode::readyAt() const
+BusTime ServerNode::deadline() const
 {
-    return m_replies.readyAt();
+    return m_transfer ? m_transfer->session.deadline() : never;
 }
 
-const PendingFrame& ServerNode::offer(BusTime)
+BusTime ServerNode::readyAt() const
 {
+    return std::min(m_replies.readyAt(), deadline());
+}
+
+const PendingFrame& ServerNode::offer(BusTime start)
+{
+    if (m_replies.isEmpty()) {
+        finish(UploadSession::Error::Number, start); // the deadline has passed
+    }
     return m_replies.front();
 }
 
@@ -65,11 +81,13 @@ void ServerNode::skipTo(BusTime) {} // whoever asked still waits
 
 void ServerNode::observe(const BusFrame& frame, BusTime end)
 {
-    if (!isServiceRequest(frame)) {
+    if (!isFromClient(frame)) {
         return;
     }
-    if (m_transfer && frame.id == (m_transfer->requestId | privateBit)) {
-        takeData(frame, end);
+    if ((frame.id & privateBit) != 0) {
+        if (m_transfer && frame.id == (m_transfer->requestId | privateBit)) {
+            takeData(frame, end);
+        }
     } else if (frame.byteCount == requestBytes && bigEndian16(frame, 0) == identificationService) {
         identify(frame, end);
     } else if (frame.byteCount == uploadMessageBytes && bigEndian16(frame, 0) == uploadService) {
@@ -88,8 +106,8 @@ void ServerNode::identify(const BusFrame& request, BusTime end)
 
 bool ServerNode::isConfirmation(const BusFrame& frame) const
 {
-    return m_transfer && !m_transfer->isConfirmed && frame.id == m_transfer->requestId &&
-           frame.data.at(2) == confirmed && frame.data.at(3) == m_pacing.messageSeparation &&
+    return m_transfer && frame.id == m_transfer->requestId && frame.data.at(2) == confirmed &&
+           frame.data.at(3) == m_pacing.messageSeparation &&
            bigEndian16(frame, 4) == m_pacing.blockSize &&
            bigEndian16(frame, 6) == m_pacing.blockSeparation;
 }
@@ -99,6 +117,9 @@ void ServerNode::takeUploadMessage(const BusFrame& frame, BusTime end)
     if (!isConfirmation(frame)) {
         startTransfer(frame, end);
         return;
+    }
+    if (m_transfer->isConfirmed) {
+        return; // a program with two interfaces on the bus may send it twice
     }
     m_transfer->isConfirmed = true;
     if (m_settings.fault == NodeFault::NoAck) {
@@ -139,13 +160,12 @@ void ServerNode::takeData(const BusFrame& frame, BusTime end)
     if (fallsSilent) {
         m_transfer.reset();
     } else if (session.isComplete()) {
-        finish(end);
+        finish(session.error(), end);
     }
 }
 
-void ServerNode::finish(BusTime end)
+void ServerNode::finish(UploadSession::Error error, BusTime end)
 {
-    const UploadSession::Error error = m_transfer->session.error();
     const bool isRight = error == UploadSession::Error::None;
     BusFrame answer = answerTo(m_transfer->requestId, isRight ? ackBytes : errorBytes);
     putBigEndian(answer, 0, uploadService, 2);

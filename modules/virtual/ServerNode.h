@@ -37,9 +37,10 @@ private:
     void identify(const BusFrame& request, BusTime end);
     void takeUploadMessage(const BusFrame& frame, BusTime end);
     bool isConfirmation(const BusFrame& frame) const;
+    BusTime deadline() const;
     void startTransfer(const BusFrame& request, BusTime end);
     void takeData(const BusFrame& frame, BusTime end);
-    void finish(BusTime end);
+    void finish(UploadSession::Error error, BusTime end);
 
     NodeSettings m_settings;
     NodePacing m_pacing;

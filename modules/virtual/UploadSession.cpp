@@ -44,6 +44,7 @@ void UploadSession::take(const BusFrame& frame, BusTime time)
     if (isComplete()) {
         return;
     }
+    m_lastAt = time;
     if (m_framesTaken == 0) {
         m_firstAt = time;
     } else if (time - m_firstAt < m_planned - tolerance) {
@@ -58,6 +59,16 @@ void UploadSession::take(const BusFrame& frame, BusTime time)
     if (isComplete() && m_lastBytes != uploadChecksum(m_size - std::min(m_size, checksumBytes))) {
         note(Error::Checksum);
     }
+}
+
+BusTime UploadSession::deadline() const
+{
+    if (m_framesTaken == 0) {
+        return never;
+    }
+    const BusTime separation =
+        std::max<BusTime>(m_pacing.messageSeparation, m_pacing.blockSeparation);
+    return m_lastAt + patience + separation * millisecond;
 }
 
 void UploadSession::plan(std::uint32_t byteCount)

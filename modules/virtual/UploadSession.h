@@ -16,11 +16,15 @@ public:
         None = 0,
         FrameSize = 1, ///< a frame has another byte count than its place asks
         TooEarly = 2,  ///< a frame came sooner than the pacing allows
-        Checksum = 3
+        Checksum = 3,
+        Number = 4 ///< the data ended before all were there
     };
 
-    /// A frame may come sooner than it should by as much as others may have held up the first one.
-    static constexpr BusTime tolerance = 5 * millisecond;
+    /// A frame may come sooner than it should by as much as other traffic, such as a burst, may
+    /// have held up the first one.
+    static constexpr BusTime tolerance = 200 * millisecond;
+    /// So long after a frame the next one is expected, besides the separations.
+    static constexpr BusTime patience = second;
 
     /// Expects `size` bytes, checksum included.
     UploadSession(std::uint32_t size, const NodePacing& pacing);
@@ -28,6 +32,8 @@ public:
     /// Takes the next frame, which left the bus at `time`.
     void take(const BusFrame& frame, BusTime time);
 
+    /// When waiting for the next frame ends; `never` before the first one.
+    BusTime deadline() const;
     bool isComplete() const { return m_framesTaken == m_frameCount; }
     std::uint32_t framesTaken() const { return m_framesTaken; }
     std::uint32_t frameCount() const { return m_frameCount; }
@@ -46,6 +52,7 @@ private:
     std::uint32_t m_bytesTaken = 0;
     std::uint32_t m_bytesOfBlock = 0;
     BusTime m_firstAt = 0;
+    BusTime m_lastAt = 0;
     BusTime m_planned = 0;         ///< of the next frame, after the first one
     std::uint32_t m_lastBytes = 0; ///< the last four, which are the checksum in the end
     Error m_error = Error::None;

@@ -205,6 +205,28 @@ TEST_F(FunctionGenWindow, ClosingInTheMiddleOfASweepGivesTheCursorBack)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(FunctionGenWindow, ForcedCloseEndsASweepAndTheWait)
+{
+    MessageBoxes::setNextAnswer(QMessageBox::Yes);
+    click("flash");
+    click("search");
+    m_dialog->forceClose();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(timer("searchTimer")->isActive());
+    EXPECT_FALSE(timer("flashTimer")->isActive());
+}
+
+TEST_F(FunctionGenWindow, HalfTypedNodeNumbersDoNotCount)
+{
+    find<QSpinBox>("baseId")->setFocus();
+    find<QSpinBox>("baseId")->selectAll();
+    QTest::keyClicks(find<QSpinBox>("baseId"), QStringLiteral("30"));
+    find<QSpinBox>("nodeId")->selectAll();
+    EXPECT_EQ(m_object->generator().nodeBaseId, 1000);
+    QTest::keyClicks(find<QSpinBox>("nodeId"), QStringLiteral("9"));
+    EXPECT_EQ(m_object->generator().nodeId, 7);
+}
+
 TEST_F(FunctionGenWindow, WithoutItsObjectItDoesNothing)
 {
     click("search");

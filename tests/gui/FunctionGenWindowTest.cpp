@@ -202,6 +202,32 @@ TEST_F(FunctionGenWindow, DialsAreThousandthsOfTheirRange)
     EXPECT_EQ(m_outlet.kinds(), "+2 +4 ");
 }
 
+TEST_F(FunctionGenWindow, DialCanBeTurnedStepByStepThroughEveryRange)
+{
+    auto* dial = control<QDial>("frequencyDial");
+    dial->setFocus();
+    for (const std::int32_t exponent : {-2, -1, 0, 1, 2}) {
+        channel().frequencyFactor = exponent;
+        channel().frequency = 0.0F;
+        m_dialog->updateDialog();
+        QTest::keyClick(dial, Qt::Key_Home);
+        for (int position = 2; position <= 300; ++position) {
+            QTest::keyClick(dial, Qt::Key_Up);
+            ASSERT_EQ(dial->value(), position) << exponent;
+        }
+    }
+}
+
+TEST_F(FunctionGenWindow, HeaderCountsFramesBothWays)
+{
+    reply({1, 2, 3, 4}, 500);
+    reply({1, 2, 3, 4}, 500);
+    EXPECT_EQ(find<QLabel>("inputCounter")->text(), QLatin1String("0002"));
+    choose(control<QComboBox>("waveform"), 1);
+    type(control<QSpinBox>("canId"), "1500");
+    EXPECT_EQ(find<QLabel>("outputCounter")->text(), QLatin1String("0003"));
+}
+
 TEST_F(FunctionGenWindow, RangesChangeWhatIsShownAndSendNothing)
 {
     choose(control<QComboBox>("frequencyRange"), 1);

@@ -1,3 +1,4 @@
+#include "core/SettingsStore.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/frame/FileDialogs.h"
 #include "gui/frame/WidgetInterfaceSelect.h"
@@ -29,6 +30,7 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -116,6 +118,35 @@ protected:
                 label->palette().color(label->backgroundRole()).name())
             .toStdString();
     }
+    /// The label of a field of the page.
+    std::string labelOf(const char* name) const
+    {
+        for (const QGroupBox* group : page()->findChildren<QGroupBox*>()) {
+            const auto* form = qobject_cast<QFormLayout*>(group->layout());
+            if (const QWidget* label = form->labelForField(find<QWidget>(name))) {
+                return qobject_cast<const QLabel*>(label)->text().toStdString();
+            }
+        }
+        return {};
+    }
+    /// Moves every field of the identifier, and returns what it must be then.
+    std::uint32_t changeAddress() const
+    {
+        moveDown(find<QwtComboBox>("lcc"), 2);
+        moveDown(find<QwtComboBox>("clientFid"), 20);
+        clickLocalBit();
+        moveDown(find<QwtComboBox>("serverFid"), 30);
+        find<QSpinBox>("sid")->setFocus();
+        find<QSpinBox>("sid")->selectAll();
+        QTest::keyClicks(find<QSpinBox>("sid"), QStringLiteral("40"));
+        moveDown(find<QwtComboBox>("rci"), 2);
+        return 6U << 26 | 20U << 19 | 1U << 18 | 1U << 17 | 30U << 9 | 40U << 2 | 2U;
+    }
+    void clickLocalBit() const
+    {
+        auto* box = find<QCheckBox>("lcl");
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(5, box->height() / 2));
+    }
     QTimer* timer() const
     {
         return page()->findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
@@ -184,15 +215,6 @@ TEST_F(NodeServiceWindow, PageHasItsControls)
     ASSERT_EQ(groups.size(), 2);
     EXPECT_EQ(groups[0]->title(), QLatin1String("Transmit"));
     EXPECT_EQ(groups[1]->title(), QLatin1String("Receive"));
-    const auto labelOf = [&](const char* name) {
-        for (const QGroupBox* group : groups) {
-            const auto* form = qobject_cast<QFormLayout*>(group->layout());
-            if (const QWidget* label = form->labelForField(find<QWidget>(name))) {
-                return qobject_cast<const QLabel*>(label)->text().toStdString();
-            }
-        }
-        return std::string();
-    };
     EXPECT_EQ(labelOf("lcc"), "LCC :");
     EXPECT_EQ(labelOf("clientFid"), "Client FID :");
     EXPECT_EQ(labelOf("lcl"), "LCL :");
@@ -233,19 +255,42 @@ TEST_F(NodeServiceWindow, ControlsComposeTheIdentifier)
 {
     click("send");
     EXPECT_EQ(m_outlet.frame(0).id(), plainRequest);
-    moveDown(find<QwtComboBox>("lcc"), 2);
-    moveDown(find<QwtComboBox>("clientFid"), 20);
-    QTest::mouseClick(find<QCheckBox>("lcl"), Qt::LeftButton, {},
-                      QPoint(5, find<QCheckBox>("lcl")->height() / 2));
-    moveDown(find<QwtComboBox>("serverFid"), 30);
-    find<QSpinBox>("sid")->setFocus();
-    QTest::keyClick(find<QSpinBox>("sid"), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(find<QSpinBox>("sid"), QStringLiteral("40"));
-    moveDown(find<QwtComboBox>("rci"), 2);
+    const std::uint32_t changed = changeAddress();
     click("send");
-    EXPECT_EQ(m_outlet.frame(1).id(),
-              6U << 26 | 20U << 19 | 1U << 18 | 1U << 17 | 30U << 9 | 40U << 2 | 2U);
+    EXPECT_EQ(m_outlet.frame(1).id(), changed);
     EXPECT_EQ(hex(m_outlet.frame(1)), "00 00");
+    clickLocalBit();
+    click("send");
+    EXPECT_EQ(m_outlet.frame(2).id(), changed & ~(1U << 17));
+}
+
+TEST_F(NodeServiceWindow, UploadHasTheSameControls)
+{
+    chooseUpload();
+    const std::uint32_t changed = changeAddress();
+    click("send");
+    EXPECT_EQ(m_outlet.frame(0).id(), changed);
+    EXPECT_EQ(labelOf("lcc"), "LCC :");
+    EXPECT_EQ(find<QPushButton>("send")->text(), QLatin1String("Send"));
+    EXPECT_EQ(page()->findChildren<QGroupBox*>()[0]->title(), QLatin1String("Transmit"));
+    EXPECT_EQ(page()->findChildren<QGroupBox*>()[1]->title(), QLatin1String("Receive"));
+    std::vector<std::string> labels;
+    for (const QLabel* label : page()->findChildren<QLabel*>()) {
+        labels.push_back(label->text().toStdString());
+    }
+    EXPECT_EQ(std::count(labels.begin(), labels.end(), "File :"), 1);
+}
+
+TEST_F(NodeServiceWindow, FunctionCodesAreThoseOfTheChosenVersion)
+{
+    const QString before = find<QwtComboBox>("serverFid")->itemText(21);
+    const QString key = QStringLiteral("ArincProfileVersion");
+    const int version = SettingsStore::instance().integer(key, 0);
+    SettingsStore::instance().setInteger(key, version == 0 ? 1 : 0);
+    delete m_dialog;
+    m_dialog = new gui::DialogNodeService(m_object, nullptr);
+    EXPECT_NE(find<QwtComboBox>("serverFid")->itemText(21), before);
+    SettingsStore::instance().setInteger(key, version);
 }
 
 TEST_F(NodeServiceWindow, IdentificationIsShown)
@@ -308,16 +353,6 @@ TEST_F(NodeServiceWindow, InterfaceIsKeptInTheProject)
 TEST_F(NodeServiceWindow, UploadPageHasItsControls)
 {
     chooseUpload();
-    const auto groups = page()->findChildren<QGroupBox*>();
-    const auto labelOf = [&](const char* name) {
-        for (const QGroupBox* group : groups) {
-            const auto* form = qobject_cast<QFormLayout*>(group->layout());
-            if (const QWidget* label = form->labelForField(find<QWidget>(name))) {
-                return qobject_cast<const QLabel*>(label)->text().toStdString();
-            }
-        }
-        return std::string();
-    };
     EXPECT_EQ(labelOf("destinationId"), "Destination Id");
     EXPECT_EQ(labelOf("progress"), "Progress :");
     EXPECT_EQ(labelOf("responseCode"), "Response Code :");

@@ -11,9 +11,15 @@ using Status = GeneratorControl::FlashStatus;
 using Kind = generator::ChannelFrame;
 using zul::test::hexOf;
 
+zul::MessageCan& frameOf(MessageContainer& batch)
+{
+    return *message_cast<zul::MessageCan>(batch.messages().front().get());
+}
+
 MessageContainer reply(const std::vector<std::uint8_t>& bytes, std::uint32_t id = 129)
 {
     MessageContainer batch = zul::test::batchOf(id, bytes);
+    frameOf(batch).setMode(zul::MessageCan::EMsgMode::Standard);
     batch.setSrcDest("CAN 1");
     return batch;
 }
@@ -143,13 +149,23 @@ TEST_F(GeneratorControlTest, OnlyRepliesOfTheInterfaceWithInputAndFilterCount)
     EXPECT_EQ(m_control.receivedTotal(), 4U);
 }
 
-TEST_F(GeneratorControlTest, ErrorFramesAreNoReplies)
+TEST_F(GeneratorControlTest, OnlyStandardDataFramesAreReplies)
 {
-    MessageContainer batch = reply({33, 4, 111, 0});
-    message_cast<zul::MessageCan>(batch.messages()[0].get())
-        ->setFrameType(zul::MessageCan::EFrameType::Error);
-    m_control.receive(batch, m_object);
+    using Type = zul::MessageCan::EFrameType;
+    using Mode = zul::MessageCan::EMsgMode;
+    for (const Type type : {Type::Error, Type::Remote}) {
+        MessageContainer batch = reply({33, 4, 111, 0});
+        frameOf(batch).setFrameType(type);
+        m_control.receive(batch, m_object);
+    }
+    for (const Mode mode : {Mode::Extended, Mode::StandardFd}) {
+        MessageContainer batch = reply({33, 4, 111, 0});
+        frameOf(batch).setMode(mode);
+        m_control.receive(batch, m_object);
+    }
     EXPECT_TRUE(m_control.found().empty());
+    m_control.receive(reply({33, 4, 111, 0}), m_object);
+    EXPECT_EQ(m_control.found().size(), 1U);
 }
 
 TEST_F(GeneratorControlTest, NodeIdRequestNamesBothAndTheNewOneIsAddressedAtOnce)

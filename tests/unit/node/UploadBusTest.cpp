@@ -1,4 +1,5 @@
 #include "modules/virtual/NodeSettings.h"
+#include "modules/virtual/SendSchedule.h"
 #include "node/IdentificationClient.h"
 #include "node/ServiceLink.h"
 #include "node/UploadClient.h"
@@ -174,6 +175,12 @@ TEST_P(UploadOfSize, ArrivesByteForByteAndIsFinished)
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, UploadOfSize, testing::Values(0, 4, 5, 4'096, 1'000'000));
+
+TEST_F(UploadBus, DeviceHoldsTheLargestFile)
+{
+    EXPECT_LE(uploadFrameCount(UploadClient::maxFileBytes),
+              canvirtual::SendSchedule::usualCapacity);
+}
 
 TEST_F(UploadBus, ProgressComesFromTheDevice)
 {

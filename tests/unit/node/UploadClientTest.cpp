@@ -169,6 +169,18 @@ TEST_F(UploadClientTest, OnlyThreeBytesAreAnAck)
     EXPECT_EQ(m_link.log, "send start start send stop ");
 }
 
+TEST_F(UploadClientTest, OnlyThreeBytesEndTheTransfer)
+{
+    chooseFile("abc");
+    startUpload();
+    for (const std::vector<std::uint8_t>& other : {std::vector<std::uint8_t>{}, {0, 2, 3, 0}}) {
+        EXPECT_TRUE(m_client.receive(batchOf(answer, other)));
+        EXPECT_EQ(m_client.state(), State::Uploading);
+    }
+    ack();
+    EXPECT_EQ(m_client.state(), State::Finished);
+}
+
 TEST_F(UploadClientTest, FileGoesOutAsOneSchedule)
 {
     chooseFile("abcdefgh");

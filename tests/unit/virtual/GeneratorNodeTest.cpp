@@ -132,6 +132,19 @@ TEST_F(GeneratorNodeTest, HighestBaseIdentifierIsTaken)
     EXPECT_EQ(answers(), (Texts{"81: 09 00 6E 00"}));
 }
 
+TEST_F(GeneratorNodeTest, IdentifiersOfRequestsAndRepliesStayFree)
+{
+    open();
+    for (const std::uint8_t base : Bytes{124, 126, 128, 129}) {
+        sendBytes(requestId, {9, 4, 110, 0, 0, 0, 0, base});
+        EXPECT_EQ(answers(), (Texts{"81: 09 00 6E 01"})) << int{base};
+    }
+    sendBytes(requestId, {9, 4, 110, 0, 0, 0, 0, 123});
+    EXPECT_EQ(answers(), (Texts{"81: 09 00 6E 00"}));
+    sendBytes(requestId, {9, 4, 110, 0, 0, 0, 0, 130});
+    EXPECT_EQ(answers(), (Texts{"81: 09 00 6E 00"}));
+}
+
 TEST_F(GeneratorNodeTest, OnlyWhatIsStoredOutlivesThePower)
 {
     open();
@@ -294,6 +307,7 @@ TEST(GeneratorSignal, ValuesHaveTheirTypesAndAreClamped)
         return bytes;
     };
     EXPECT_EQ(text(2, -2.5F), "07020008C0200000");
+    EXPECT_EQ(text(2, std::numeric_limits<float>::infinity()), "070200087F800000");
     EXPECT_EQ(text(3, -2.0F), "07030008FFFFFFFE");
     EXPECT_EQ(text(3, 1e30F), "070300087FFFFFFF");
     EXPECT_EQ(text(4, 3e9F), "07040008B2D05E00");
@@ -304,6 +318,15 @@ TEST(GeneratorSignal, ValuesHaveTheirTypesAndAreClamped)
     EXPECT_EQ(text(10, 300.0F), "070A0008FF");
     EXPECT_EQ(text(10, std::numeric_limits<float>::quiet_NaN()), "070A000800");
     EXPECT_EQ(text(3, -std::numeric_limits<float>::infinity()), "0703000880000000");
+}
+
+TEST(GeneratorSignal, SumBeyondAFloatIsTheLargestOne)
+{
+    GeneratorChannel channel;
+    channel.amplitude = 3e38F;
+    channel.offset = 3e38F;
+    const BusFrame frame = generatorFrame(channel, 1, 0, 0.25);
+    EXPECT_EQ(bigEndian32(frame, 4), 0x7F7FFFFFU);
 }
 
 TEST(GeneratorSignal, IdentifierDecidesTheMode)

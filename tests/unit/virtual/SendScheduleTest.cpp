@@ -57,11 +57,6 @@ TEST(SendSchedule, FullMemoryRefuses)
     EXPECT_EQ(schedule.left(), capacity);
 }
 
-TEST(SendSchedule, HoldsTheFramesOfSixteenMebibytes)
-{
-    EXPECT_GT(SendSchedule::usualCapacity, 16U * 1024 * 1024 / 8 + 1);
-}
-
 TEST(SendSchedule, StartOfAnEmptyMemoryDoesNothing)
 {
     SendSchedule schedule;

@@ -149,12 +149,71 @@ TEST_F(ServerNodeTest, FramesThatComeTooEarlyAreTold)
 {
     constexpr int slow = 1; // 2 ms, and 20 ms between blocks of 64 bytes
     open(NodeFault::None, slow);
-    agree(160, slow);
-    for (int i = 0; i < 20; ++i) {
+    agree(1'600, slow);
+    for (int i = 0; i < 200; ++i) {
         sendBytes(dataId, Bytes(8, 0));
     }
     sendBytes(dataId, {});
-    EXPECT_EQ(answers(), (Texts{"10a03c09: 00 02 02 00"}));
+    EXPECT_EQ(answers(100 * millisecond), (Texts{"10a03c09: 00 02 02 00"}));
+}
+
+TEST_F(ServerNodeTest, FirstFrameMayHaveBeenHeldUp)
+{
+    constexpr int slow = 1;
+    open(NodeFault::None, slow);
+    agree(80, slow); // by plan 20 ms and a block's end
+    for (int i = 0; i < 9; ++i) {
+        sendBytes(dataId, Bytes(8, 0));
+    }
+    Bytes last(4, 0);
+    const Bytes sum = checksumBytes(76);
+    last.insert(last.end(), sum.begin(), sum.end());
+    sendBytes(dataId, last);
+    sendBytes(dataId, {});
+    EXPECT_EQ(answers(), (Texts{ackText}));
+}
+
+TEST_F(ServerNodeTest, DataThatEndTooSoonAreTold)
+{
+    open();
+    agree(80);
+    sendBytes(dataId, Bytes(8, 0));
+    sendBytes(dataId, Bytes(8, 0));
+    EXPECT_EQ(answers(900 * millisecond), Texts());
+    EXPECT_EQ(answers(200 * millisecond), (Texts{"10a03c09: 00 02 04 00"}));
+    sendBytes(dataId, Bytes(8, 0));
+    EXPECT_EQ(answers(2 * second), Texts());
+}
+
+TEST_F(ServerNodeTest, SecondConfirmationChangesNothing)
+{
+    open();
+    agree(4);
+    confirm();
+    EXPECT_EQ(answers(), Texts());
+    sendBytes(dataId, {0, 0, 0, 0});
+    EXPECT_EQ(answers(), (Texts{ackText}));
+}
+
+TEST_F(ServerNodeTest, DataWithoutAnUploadAreNoRequests)
+{
+    open();
+    sendBytes(dataId, {0, 0});
+    sendBytes(dataId, {0, 2, 0, 0, 0, 0, 0, 4});
+    EXPECT_EQ(answers(), Texts());
+}
+
+TEST_F(ServerNodeTest, OnlyTheServiceChannelsAreHeard)
+{
+    open();
+    for (const std::uint32_t channel : {0U, 1U, 2U, 3U, 7U}) {
+        sendBytes((request & ~(7U << 26)) | channel << 26, {0, 0}, true);
+    }
+    EXPECT_EQ(answers(), Texts());
+    for (const std::uint32_t channel : {4U, 5U, 6U}) {
+        sendBytes((request & ~(7U << 26)) | channel << 26, {0, 0}, true);
+    }
+    EXPECT_EQ(answers().size(), 3U);
 }
 
 TEST_F(ServerNodeTest, DataBeforeTheConfirmationDoNotCount)
