@@ -2,7 +2,7 @@
 
 #include "gui/controls/Colors.h"
 #include "gui/controls/QwtPushButton.h"
-#include "gui/traffic/WheelGuard.h"
+#include "gui/controls/WheelGuard.h"
 
 #include <QEvent>
 #include <QLineEdit>

@@ -3,8 +3,8 @@
 #include "gui/controls/NumberText.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtSpinBox.h"
+#include "gui/controls/WheelGuard.h"
 #include "gui/traffic/PayloadBlock.h"
-#include "gui/traffic/WheelGuard.h"
 #include "traffic/MessageEntry.h"
 
 #include <QCheckBox>
