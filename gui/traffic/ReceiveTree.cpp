@@ -269,6 +269,7 @@ void ReceiveTree::paintRow(ReceiveTable& table, int index, int numberType)
         }
     }
     paintActivity(record, row);
+    table.notePainted(index);
 }
 
 void ReceiveTree::paintLines(ReceiveRow& record, Row& row) const
