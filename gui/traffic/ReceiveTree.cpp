@@ -94,6 +94,8 @@ void ReceiveTree::buildColumns(DisplayMode mode)
         sortByNone(); // the user chose it from other columns
     }
     const Columns columns = columnsOf(m_set);
+    // A column that becomes the last one would else stay as wide as it was in the middle.
+    header()->setStretchLastSection(false);
     setColumnCount(columns.count);
     QFont headerFont = font();
     headerFont.setPixelSize(arincHeaderFontPixels);
@@ -111,10 +113,10 @@ void ReceiveTree::buildColumns(DisplayMode mode)
         if (i == 0 && column.longest[0] != '\0') {
             needed += indentation() + stateIconSize.width() + cellMargins;
         }
-        if (column.width > 0) {
-            setColumnWidth(i, std::max(column.width, needed));
-        }
+        const int width = column.width > 0 ? std::max(column.width, needed) : 0;
+        setColumnWidth(i, std::max(width, header()->minimumSectionSize()));
     }
+    header()->setStretchLastSection(true);
 }
 
 QFont ReceiveTree::cellFont(CellFont font) const
