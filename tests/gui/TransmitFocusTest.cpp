@@ -220,6 +220,15 @@ TEST_F(TransmitLimits, LimitThatIsBeingTypedOutlivesTheDisplayMode)
     EXPECT_FLOAT_EQ(line(0).max, 7.25F);
 }
 
+TEST_F(TransmitLimits, LimitThatIsBeingTypedCountsWhenTheFocusGoesAndComesBack)
+{
+    beginTyping("minimum", "2.5");
+    limit("minimum")->clearFocus(); // as saving the project does
+    limit("minimum")->setFocus();
+    EXPECT_FLOAT_EQ(line(0).min, 2.5F);
+    EXPECT_TRUE(limit("minimum")->hasFocus());
+}
+
 TEST_F(TransmitLimits, LimitThatIsBeingTypedOutlivesTheWindow)
 {
     for (const char* name : {"minimum", "maximum"}) {
