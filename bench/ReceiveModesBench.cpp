@@ -299,6 +299,49 @@ void plainRows(benchmark::State& state, DisplayMode mode)
     bench::setItems(state, table.rowCount());
 }
 
+// A batch with identifiers that are new to a tree of 10,000 rows that the user has sorted. Range 0
+// is the column: identifiers stay in order, counts do not where the same frames come again.
+void newRowsInSortedTree(benchmark::State& state)
+{
+    constexpr std::uint32_t rowsBefore = 10'000;
+    const auto newInBatch = static_cast<std::uint32_t>(state.range(1));
+    constexpr std::uint32_t spread = 7'919; // prime, so that every identifier comes once
+    constexpr std::uint32_t identifierCount = 1U << 20U;
+    const auto frame = [](std::uint32_t number) {
+        auto* made = new MessageCan;
+        made->setId(number * spread % identifierCount);
+        made->setByteCount(8);
+        return SmartPtr<Message>(made);
+    };
+    const Filter filter;
+    ReceiveTable table;
+    gui::ReceiveTree tree;
+    tree.resize(windowSize);
+    tree.show();
+    std::uint32_t next = 0;
+    MessageContainer first;
+    while (next < rowsBefore) {
+        first.addMessage(frame(next++));
+    }
+    table.update(first, true, filter, 0.0);
+    tree.addMissingRows(table, hexadecimal);
+    tree.paintDirtyRows(table, hexadecimal);
+    tree.sortByColumn(static_cast<int>(state.range(0)), Qt::AscendingOrder);
+    QApplication::processEvents();
+    for ([[maybe_unused]] auto _ : state) {
+        MessageContainer batch;
+        batch.addMessage(frame(next / 2)); // one more of a row that stands there
+        for (std::uint32_t i = 0; i < newInBatch; ++i) {
+            batch.addMessage(frame(next++));
+        }
+        table.update(batch, true, filter, 0.0);
+        bench::timed(state, [&] { tree.addMissingRows(table, hexadecimal); });
+        tree.paintDirtyRows(table, hexadecimal);
+        QApplication::processEvents();
+    }
+    bench::setItems(state, static_cast<int>(newInBatch));
+}
+
 BENCHMARK(identifierRows);
 BENCHMARK(parameterRows)->ArgName("parameters")->Arg(0)->Arg(1)->Arg(manyParameters);
 BENCHMARK(rowWalk)->ArgName("parameters")->Arg(manyParameters);
@@ -314,6 +357,12 @@ BENCHMARK_CAPTURE(repaintRows, canAerospace, DisplayMode::CanAerospace)->UseManu
 BENCHMARK_CAPTURE(repaintRows, raw, DisplayMode::Arinc825Raw)->UseManualTime();
 BENCHMARK_CAPTURE(repaintRows, profile, DisplayMode::Arinc825Profile)->UseManualTime();
 BENCHMARK_CAPTURE(repaintManyRows, profile, DisplayMode::Arinc825Profile)->UseManualTime();
+BENCHMARK(newRowsInSortedTree)
+    ->ArgNames({"column", "new"})
+    ->ArgsProduct({{static_cast<int>(ReceiveColumn::Id), static_cast<int>(ReceiveColumn::Count)},
+                   {1, 10}})
+    ->Iterations(20)
+    ->UseManualTime();
 BENCHMARK_CAPTURE(plainRows, can, DisplayMode::Can)->UseManualTime();
 BENCHMARK_CAPTURE(plainRows, canAerospace, DisplayMode::CanAerospace)->UseManualTime();
 BENCHMARK_CAPTURE(plainRows, raw, DisplayMode::Arinc825Raw)->UseManualTime();

@@ -93,11 +93,15 @@ void enterCharacters(SendMsg& message, const QString& text)
     }
 }
 
-// Up to the first byte that is no letter at all: a new message is nothing but zeros.
+// Zeros at the end are no letters: a new message is nothing but zeros. Others keep their places, so
+// that an edit of one letter does not move those behind it; a line shows them as blanks.
 QString characters(const SendMsg& message, int count)
 {
+    while (count > 0 && valueByte(message, count - 1) == 0) {
+        --count;
+    }
     QString text;
-    for (int i = 0; i < count && valueByte(message, i) != 0; ++i) {
+    for (int i = 0; i < count; ++i) {
         text += QLatin1Char(static_cast<char>(valueByte(message, i)));
     }
     return text;

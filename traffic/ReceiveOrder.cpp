@@ -31,7 +31,7 @@ bool isCanLess(const ReceiveRow& left, const ReceiveRow& right, ReceiveColumn co
     case ReceiveColumn::Length:
         return left.msg.byteCount() < right.msg.byteCount();
     case ReceiveColumn::Message:
-        return isPayloadLess(left.msg, right.msg);
+        break; // see `isMessageLess`
     }
     return false;
 }
@@ -165,14 +165,27 @@ bool isError(const ReceiveRow& row)
     return row.msg.frameType() == MessageCan::EFrameType::Error;
 }
 
-bool isEmptiedByErrors(DisplayMode mode, int column)
+// Whether a cell of the row is empty on account of an error frame, the last one or an earlier one.
+bool isEmptied(const ReceiveRow& row, DisplayMode mode, int column)
 {
-    if (mode == DisplayMode::Arinc825Raw) {
-        return column >= static_cast<int>(ReceiveRawColumn::Fields);
+    switch (mode) {
+    case DisplayMode::Can:
+    case DisplayMode::CanAerospace:
+        return isError(row) && column == static_cast<int>(ReceiveColumn::Length);
+    case DisplayMode::Arinc825Raw:
+        return isError(row) && column >= static_cast<int>(ReceiveRawColumn::Fields);
+    case DisplayMode::Arinc825Profile:
+        break;
     }
-    return mode == DisplayMode::Arinc825Profile &&
-           column >= static_cast<int>(ReceiveProfileColumn::Rci) &&
-           column <= static_cast<int>(ReceiveProfileColumn::Value);
+    switch (static_cast<ReceiveProfileColumn>(column)) {
+    case ReceiveProfileColumn::Rci:
+    case ReceiveProfileColumn::Parameter:
+        return isError(row) || row.namesLost;
+    case ReceiveProfileColumn::Value:
+        return isError(row);
+    default:
+        return false;
+    }
 }
 
 // By what the line begins with: the class of the identifier, node, type.
@@ -186,21 +199,38 @@ bool isCanAerospaceLess(const MessageCan& left, const MessageCan& right)
     return std::strcmp(leftLine.data(), rightLine.data()) < 0;
 }
 
+// By what the cells show: an error frame leaves the message of the frame before it. Rows that have
+// shown none come first.
+bool isMessageLess(const ReceiveTable& table, DisplayMode mode, int left, int right)
+{
+    const auto shownFrame = [&table](int row) {
+        return isError(table.row(row)) ? table.paintedFrame(row) : &table.row(row).msg;
+    };
+    const MessageCan* leftFrame = shownFrame(left);
+    const MessageCan* rightFrame = shownFrame(right);
+    if (leftFrame == nullptr || rightFrame == nullptr) {
+        return leftFrame == nullptr && rightFrame != nullptr;
+    }
+    return mode == DisplayMode::CanAerospace ? isCanAerospaceLess(*leftFrame, *rightFrame)
+                                             : isPayloadLess(*leftFrame, *rightFrame);
+}
+
 } // namespace
 
 bool isReceiveRowLess(const ReceiveTable& table, DisplayMode mode, int column, int left, int right)
 {
     const ReceiveRow& leftRow = table.row(left);
     const ReceiveRow& rightRow = table.row(right);
-    if (isEmptiedByErrors(mode, column) && (isError(leftRow) || isError(rightRow))) {
-        return isError(leftRow) && !isError(rightRow);
+    const bool isLeftEmptied = isEmptied(leftRow, mode, column);
+    const bool isRightEmptied = isEmptied(rightRow, mode, column);
+    if (isLeftEmptied || isRightEmptied) {
+        return isLeftEmptied && !isRightEmptied;
     }
     switch (mode) {
     case DisplayMode::Can:
-        return isCanLess(leftRow, rightRow, static_cast<ReceiveColumn>(column));
     case DisplayMode::CanAerospace:
         return static_cast<ReceiveColumn>(column) == ReceiveColumn::Message
-                   ? isCanAerospaceLess(leftRow.msg, rightRow.msg)
+                   ? isMessageLess(table, mode, left, right)
                    : isCanLess(leftRow, rightRow, static_cast<ReceiveColumn>(column));
     case DisplayMode::Arinc825Raw:
         return isRawLess(leftRow, rightRow, static_cast<ReceiveRawColumn>(column));

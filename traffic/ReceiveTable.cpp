@@ -88,6 +88,7 @@ void ReceiveTable::clear()
     m_rows.clear();
     m_parameters.clear();
     m_index.clear();
+    m_paintedFrames.clear();
     m_dirty.clear();
     m_lastTimes.clear();
     m_instants.clear();
@@ -100,6 +101,24 @@ void ReceiveTable::clearDirty()
         row(index).dirty = false;
     }
     m_dirty.clear();
+}
+
+void ReceiveTable::notePainted(int index)
+{
+    ReceiveRow& painted = row(index);
+    if (painted.msg.frameType() == MessageCan::EFrameType::Error) {
+        painted.namesLost = true;
+    } else if (m_parameterIndex == nullptr) {
+        m_paintedFrames.resize(m_rows.size());
+        m_paintedFrames[static_cast<std::size_t>(index)] = painted.msg;
+    }
+}
+
+const MessageCan* ReceiveTable::paintedFrame(int index) const
+{
+    const auto place = static_cast<std::size_t>(index);
+    const bool isPainted = place < m_paintedFrames.size() && m_paintedFrames[place].has_value();
+    return isPainted ? &*m_paintedFrames[place] : nullptr;
 }
 
 void ReceiveTable::markAllDirty()

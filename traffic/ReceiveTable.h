@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <vector>
 
 class Filter;
@@ -25,6 +26,7 @@ struct ReceiveRow
     bool active = true;        ///< a frame came within the last 0.5 s
     bool shownActive = false;  ///< the `active` that the screen shows
     bool dirty = false;        ///< waits for its repaint
+    bool namesLost = false;    ///< an error frame was painted, which empties cells for good
     /// Byte count for which the lines below the first were last hidden or shown.
     std::uint32_t shownByteCount = neverShown;
     /// Rows right behind this one that take the same frames; counted in the first of them alone.
@@ -77,6 +79,12 @@ public:
     /// Indices of the rows that changed since `clearDirty`, each once.
     const std::vector<int>& dirtyRows() const { return m_dirty; }
     void clearDirty();
+    /// The row's last frame has been painted: what an error frame leaves as it stands or empties
+    /// for good is that of the frames that were painted, and others may have come between.
+    void notePainted(int index);
+    /// The frame, no error frame, that a row of `showIdentifiers` was last painted for; null if
+    /// there was none.
+    const zul::MessageCan* paintedFrame(int index) const;
     /// Every row is to be repainted.
     void markAllDirty();
 
@@ -122,6 +130,7 @@ private:
     std::uint32_t m_ignoredBits = 0;                                // of identifiers
     std::vector<ReceiveParameter> m_parameters; // those of the rows of parameters
     std::vector<double> m_lastTimes; // those of the rows: ageing looks at no others but silent ones
+    std::vector<std::optional<zul::MessageCan>> m_paintedFrames; // of rows that have been painted
     std::vector<int> m_dirty;
     // At least the last sighting of every active row, in order of time: ageing looks at the front
     // alone.

@@ -26,7 +26,9 @@ qlonglong wideNumberFromText(const QString& text)
     const QString number = text.trimmed();
     bool isNumber = false;
     const qlonglong value = number.toLongLong(&isNumber, detectBase);
-    static const QRegularExpression digits(QStringLiteral("^(0[xX][0-9a-fA-F]+|[0-9]+)$"));
+    // Digits of their base alone: "08" is no octal number, and no large one either.
+    static const QRegularExpression digits(
+        QStringLiteral("^(0[xX][0-9a-fA-F]+|0[0-7]*|[1-9][0-9]*)$"));
     const bool isTooLarge = !isNumber && digits.match(number).hasMatch();
     return isTooLarge ? std::numeric_limits<qlonglong>::max() : value;
 }

@@ -9,6 +9,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QScopedValueRollback>
@@ -86,17 +87,16 @@ QGroupBox* DialogFilter::buildSingle()
     m_ids->setUniformItemSizes(true);
     m_ids->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_idSelect = new QwtIdSelect(0, box);
-    auto* add = makeButton("<-- Add", colors::addOrSend, "add", box);
-    add->setDefault(true); // Return adds what was typed
+    m_add = makeButton("<-- Add", colors::addOrSend, "add", box);
     auto* remove = makeButton("--> Delete", colors::remove, "delete", box);
     auto* clear = makeButton("Clear", colors::clear, "clear", box);
-    connect(add, &QwtPushButton::clicked, this, &DialogFilter::slotAdd);
+    connect(m_add, &QwtPushButton::clicked, this, &DialogFilter::slotAdd);
     connect(remove, &QwtPushButton::clicked, this, &DialogFilter::slotDelete);
     connect(clear, &QwtPushButton::clicked, this, &DialogFilter::slotClear);
     auto* grid = new QGridLayout(box);
     grid->addWidget(m_ids, 0, 0, listRows, 1);
     grid->addWidget(m_idSelect, 0, 1);
-    grid->addWidget(add, 1, 1);
+    grid->addWidget(m_add, 1, 1);
     grid->addWidget(remove, 2, 1);
     grid->addWidget(clear, 3, 1);
     grid->setRowStretch(listRows - 1, 1);
@@ -110,6 +110,22 @@ void DialogFilter::connectControls()
     connect(m_min, QOverload<int>::of(&QSpinBox::valueChanged), this, &DialogFilter::slotMin);
     connect(m_max, QOverload<int>::of(&QSpinBox::valueChanged), this, &DialogFilter::slotMax);
     connect(m_idSelect, &QwtIdSelect::signalSelect, this, &DialogFilter::slotAdd);
+}
+
+// There is no default button: Return in a list or a bound would press it, and a filter that is in
+// force would get an identifier that nobody typed.
+void DialogFilter::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    QWidget* focused = focusWidget();
+    if (auto* button = qobject_cast<QPushButton*>(focused)) {
+        button->click();
+    } else if (focused != nullptr && m_idSelect->isAncestorOf(focused)) {
+        m_add->click();
+    }
 }
 
 void DialogFilter::setFilter(Filter* filter)

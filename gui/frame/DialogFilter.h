@@ -5,6 +5,7 @@
 class Filter;
 class QGroupBox;
 class QListWidget;
+class QPushButton;
 class QSpinBox;
 
 namespace gui {
@@ -28,6 +29,11 @@ public:
     void edit(Filter& filter);
     /// Forgets the filter and hides.
     void letGo();
+
+protected:
+    /// Return presses the button that has the focus, and adds what is typed in the identifier's
+    /// field; elsewhere it does nothing.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private slots:
     void slotLimit(bool on);
@@ -56,6 +62,7 @@ private:
     QGroupBox* m_single = nullptr;
     QListWidget* m_ids = nullptr;
     QwtIdSelect* m_idSelect = nullptr;
+    QPushButton* m_add = nullptr;
 };
 
 } // namespace gui

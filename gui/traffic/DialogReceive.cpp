@@ -6,6 +6,7 @@
 #include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
+#include "gui/controls/WheelGuard.h"
 #include "gui/frame/DialogFilter.h"
 #include "gui/frame/MessageGuiDialog.h"
 #include "gui/frame/WidgetHeader.h"
@@ -58,6 +59,7 @@ void DialogReceive::build()
             m_displayMode->addItem(QLatin1String(texts.receive), static_cast<int>(texts.mode));
         }
     }
+    WheelGuard::protect(m_displayMode); // another mode would empty the tree
     auto* clear = new QwtPushButton(QStringLiteral("Clear"), colors::clear, this);
     clear->setObjectName(QStringLiteral("clear"));
     clear->setFixedHeight(lowButtonHeight);

@@ -7,6 +7,7 @@
 #include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtPushButton.h"
+#include "gui/controls/WheelGuard.h"
 #include "gui/frame/DialogFilter.h"
 #include "gui/frame/MessageBoxes.h"
 #include "gui/frame/WidgetHeader.h"
@@ -93,6 +94,7 @@ void DialogTrace::buildHeader()
     m_recordMode->view()->setMinimumWidth(m_recordMode->sizeHint().width());
     m_recordMode->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_recordMode->setMinimumContentsLength(shownFormatLetters);
+    WheelGuard::protect(m_recordMode);
     m_header->addCustomWidget(m_recordMode);
 }
 
@@ -105,6 +107,7 @@ void DialogTrace::buildBottom(QVBoxLayout& layout)
             m_displayMode->addItem(QLatin1String(mode.trace), static_cast<int>(mode.mode));
         }
     }
+    WheelGuard::protect(m_displayMode);
     auto* clear = new QwtPushButton(QStringLiteral("Clear"), colors::clear, this);
     clear->setObjectName(QStringLiteral("clear"));
     clear->setFixedHeight(lowButtonHeight);

@@ -2,7 +2,7 @@
 
 #include "gui/controls/Colors.h"
 #include "gui/controls/QwtComboBox.h"
-#include "gui/traffic/WheelGuard.h"
+#include "gui/controls/WheelGuard.h"
 #include "traffic/MessageModes.h"
 
 #include <QGridLayout>

@@ -2,8 +2,8 @@
 
 #include "gui/controls/QwtByteCount.h"
 #include "gui/controls/QwtLineEdit.h"
+#include "gui/controls/WheelGuard.h"
 #include "gui/traffic/EditorLook.h"
-#include "gui/traffic/WheelGuard.h"
 #include "traffic/MessageEntry.h"
 
 #include <QGridLayout>

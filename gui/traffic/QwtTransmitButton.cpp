@@ -2,10 +2,10 @@
 
 #include "gui/controls/Colors.h"
 #include "gui/controls/QwtPushButton.h"
-#include "gui/traffic/WheelGuard.h"
+#include "gui/controls/WheelGuard.h"
 
-#include <QEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -88,10 +88,15 @@ void QwtTransmitButton::setMode(int mode)
 }
 
 // "Single" is no number to which digits could be added: a click marks it, so that they replace it.
+// The text is asked, since the value stays 0 until what is typed is complete.
 bool QwtTransmitButton::eventFilter(QObject* watched, QEvent* event)
 {
     auto* text = qobject_cast<QLineEdit*>(watched);
-    if (event->type() == QEvent::MouseButtonRelease && text != nullptr && m_rateBox->value() == 0) {
+    if (event->type() != QEvent::MouseButtonRelease || text == nullptr) {
+        return false;
+    }
+    const bool isLeft = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (isLeft && text->text() == m_rateBox->specialValueText()) {
         text->selectAll();
         return true;
     }

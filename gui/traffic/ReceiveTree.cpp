@@ -5,6 +5,7 @@
 #include "gui/traffic/ReceiveTreeItem.h"
 #include "profile/ProfileNumbers.h"
 #include "profile/ProfileStore.h"
+#include "traffic/ReceiveOrder.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -21,6 +22,9 @@ constexpr QSize stateIconSize(16, 14);
 constexpr int cellMargins = 8;
 constexpr int payloadFontPixels = 11;
 constexpr int arincHeaderFontPixels = 12;
+// A row that is put between others moves the indexes of all lines that are hidden: more new rows
+// than these take longer that way than sorting all.
+constexpr int mostInPlace = 4;
 // Deliberate: a row of ARINC 825 Raw has an empty line below those of its frame.
 constexpr int rawLineCount = receiveLineCount + 1;
 
@@ -89,6 +93,8 @@ void ReceiveTree::buildColumns(DisplayMode mode)
         sortByNone(); // the user chose it from other columns
     }
     const Columns columns = columnsOf(m_set);
+    // A column that becomes the last one would else stay as wide as it was in the middle.
+    header()->setStretchLastSection(false);
     setColumnCount(columns.count);
     QFont headerFont = font();
     headerFont.setPixelSize(arincHeaderFontPixels);
@@ -106,10 +112,10 @@ void ReceiveTree::buildColumns(DisplayMode mode)
         if (i == 0 && column.longest[0] != '\0') {
             needed += indentation() + stateIconSize.width() + cellMargins;
         }
-        if (column.width > 0) {
-            setColumnWidth(i, std::max(column.width, needed));
-        }
+        const int width = column.width > 0 ? std::max(column.width, needed) : 0;
+        setColumnWidth(i, std::max(width, header()->minimumSectionSize()));
     }
+    header()->setStretchLastSection(true);
 }
 
 QFont ReceiveTree::cellFont(CellFont font) const
@@ -134,23 +140,84 @@ void ReceiveTree::setCellFonts(QTreeWidgetItem& item) const
 
 void ReceiveTree::addMissingRows(const ReceiveTable& table, int numberType)
 {
-    if (static_cast<int>(m_rows.size()) == table.rowCount()) {
+    const int shown = static_cast<int>(m_rows.size());
+    if (shown == table.rowCount()) {
         return;
     }
-    // Rows are sorted in once, at the end: hiding a line would else sort all of them each time.
-    const bool isSorted = sortColumn() >= 0;
-    if (isSorted) {
-        setSortingEnabled(false);
+    const Sorting sorting{sortColumn(), header()->sortIndicatorOrder()};
+    const bool isInPlace =
+        sorting.column >= 0 && table.rowCount() - shown <= mostInPlace && isInOrder(table, sorting);
+    if (sorting.column >= 0) {
+        stopSorting(isInPlace);
     }
-    for (int i = static_cast<int>(m_rows.size()); i < table.rowCount(); ++i) {
-        addRow(table, i, numberType);
+    for (int i = shown; i < table.rowCount(); ++i) {
+        addRow(table, i, numberType, isInPlace ? placeOf(table, sorting, i) : i);
     }
-    if (isSorted) {
-        setSortingEnabled(true);
+    if (sorting.column >= 0) {
+        goOnSorting(sorting);
     }
 }
 
-void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType)
+// While the tree sorts, each new row and each line that is hidden would sort all of them anew.
+// Where the rows stand in order, they need not be sorted afterwards either: by no column nothing is
+// done when sorting is switched on, and the header does not tell that the column comes back.
+void ReceiveTree::stopSorting(bool isInPlace)
+{
+    const QSignalBlocker quiet(header());
+    if (isInPlace) {
+        sortByNone();
+    }
+    setSortingEnabled(false);
+}
+
+void ReceiveTree::goOnSorting(const Sorting& sorting)
+{
+    setSortingEnabled(true);
+    const QSignalBlocker quiet(header());
+    header()->setSortIndicator(sorting.column, sorting.order);
+}
+
+int ReceiveTree::rowOf(int place) const
+{
+    return static_cast<const ReceiveTreeItem*>(topLevelItem(place))->row();
+}
+
+bool ReceiveTree::isBefore(const ReceiveTable& table, const Sorting& sorting, int left,
+                           int right) const
+{
+    return sorting.order == Qt::AscendingOrder
+               ? isReceiveRowLess(table, m_mode, sorting.column, left, right)
+               : isReceiveRowLess(table, m_mode, sorting.column, right, left);
+}
+
+// Values may have changed since the rows were sorted.
+bool ReceiveTree::isInOrder(const ReceiveTable& table, const Sorting& sorting) const
+{
+    for (int place = 1; place < topLevelItemCount(); ++place) {
+        if (isBefore(table, sorting, rowOf(place), rowOf(place - 1))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Behind those that are equal to it, as if all were sorted.
+int ReceiveTree::placeOf(const ReceiveTable& table, const Sorting& sorting, int row) const
+{
+    int first = 0;
+    int last = topLevelItemCount();
+    while (first < last) {
+        const int middle = first + (last - first) / 2;
+        if (isBefore(table, sorting, row, rowOf(middle))) {
+            last = middle;
+        } else {
+            first = middle + 1;
+        }
+    }
+    return first;
+}
+
+void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType, int place)
 {
     Row row;
     row.items[0] = new ReceiveTreeItem(table, index);
@@ -159,7 +226,7 @@ void ReceiveTree::addRow(const ReceiveTable& table, int index, int numberType)
     if (hasLines(m_set)) {
         addLines(row);
     }
-    addTopLevelItem(row.items[0]);
+    insertTopLevelItem(place, row.items[0]);
     for (std::size_t line = 1; line < itemCount && hasLines(m_set); ++line) {
         row.items[line]->setHidden(true); // until the first painting knows the byte count
     }
@@ -268,6 +335,7 @@ void ReceiveTree::paintRow(ReceiveTable& table, int index, int numberType)
         }
     }
     paintActivity(record, row);
+    table.notePainted(index);
 }
 
 void ReceiveTree::paintLines(ReceiveRow& record, Row& row) const

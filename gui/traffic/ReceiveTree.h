@@ -45,8 +45,20 @@ private:
         bool hasLinesHidden = false; ///< as the byte count wants it
     };
 
+    struct Sorting
+    {
+        int column;
+        Qt::SortOrder order;
+    };
+
     void sortByNone();
-    void addRow(const ReceiveTable& table, int index, int numberType);
+    void stopSorting(bool isInPlace);
+    void goOnSorting(const Sorting& sorting);
+    int rowOf(int place) const;
+    bool isBefore(const ReceiveTable& table, const Sorting& sorting, int left, int right) const;
+    bool isInOrder(const ReceiveTable& table, const Sorting& sorting) const;
+    int placeOf(const ReceiveTable& table, const Sorting& sorting, int row) const;
+    void addRow(const ReceiveTable& table, int index, int numberType, int place);
     void addNames(const ReceiveTable& table, int index, int numberType, QTreeWidgetItem& top) const;
     void addLines(Row& row) const;
     QFont cellFont(ReceiveColumnTexts::Font font) const;

@@ -16,6 +16,9 @@ public:
     ReceiveTreeItem(const ReceiveTable& table, int row);
     ~ReceiveTreeItem() override;
 
+    /// Number of the row in the table.
+    int row() const { return m_row; }
+
     bool operator<(const QTreeWidgetItem& other) const override;
 
 private:

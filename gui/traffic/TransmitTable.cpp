@@ -6,6 +6,7 @@
 #include "project/SendMsg.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -19,6 +20,16 @@ namespace {
 
 constexpr int sideWidth = 80; // of the columns beside the messages, in pixels
 constexpr int rowsAhead = 4;  // that get their controls before they come into view
+
+// How far to scroll that `first` to `last` comes into a view of that size; its beginning, if there
+// is no room for all.
+int wayInto(int first, int last, int size)
+{
+    if (first < 0) {
+        return first;
+    }
+    return last < size ? 0 : std::min(last - size + 1, first);
+}
 
 } // namespace
 
@@ -40,33 +51,44 @@ TransmitTable::TransmitTable(QWidget* parent) : QTableWidget(parent)
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, rowsMoved);
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, rowsMoved);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &TransmitTable::fitColumns);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget*, const QWidget* field) { showField(field); });
+    qApp->installEventFilter(this);
 }
 
-// Tab may go to a field out of view, and nobody is to type into what cannot be seen.
-void TransmitTable::showField(const QWidget* field)
+// Tab may go to a field out of view, and nobody is to type into what cannot be seen. Focus that
+// comes by the mouse or with the window moves nothing: a press would be released over another row.
+bool TransmitTable::eventFilter(QObject* watched, QEvent* event)
 {
-    if (field == nullptr || !viewport()->isAncestorOf(field)) {
+    if (event->type() == QEvent::FocusIn) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        const auto* field = qobject_cast<QWidget*>(watched);
+        const bool isByKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+        if (isByKey && field != nullptr && viewport()->isAncestorOf(field)) {
+            showField(*field);
+        }
+    }
+    return QTableWidget::eventFilter(watched, event);
+}
+
+void TransmitTable::showField(const QWidget& field)
+{
+    const auto place = [this](const QWidget& widget) {
+        return QRect(widget.mapTo(viewport(), QPoint()), widget.size());
+    };
+    if (viewport()->rect().contains(place(field))) {
         return;
     }
-    const QWidget* cell = field;
-    while (cell->parentWidget() != viewport()) {
-        cell = cell->parentWidget();
+    const QWidget* row = &field;
+    while (row->parentWidget() != viewport()) {
+        row = row->parentWidget();
     }
-    const int row = verticalHeader()->visualIndexAt(cell->y() + cell->height() / 2);
-    if (row < 0) { // above the view
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + cell->y());
-    } else {
-        scrollTo(model()->index(row, NameColumn));
+    QScrollBar* down = verticalScrollBar();
+    for (const QWidget* widget : {row, &field}) { // the whole row, if there is room for it
+        const QRect rect = place(*widget);
+        down->setValue(down->value() + wayInto(rect.top(), rect.bottom(), viewport()->height()));
     }
-    const QRect place(field->mapTo(viewport(), QPoint()), field->size());
     QScrollBar* across = horizontalScrollBar();
-    if (place.left() < 0) {
-        across->setValue(across->value() + place.left());
-    } else if (place.right() >= viewport()->width()) {
-        across->setValue(across->value() + place.right() - viewport()->width() + 1);
-    }
+    const QRect rect = place(field);
+    across->setValue(across->value() + wayInto(rect.left(), rect.right(), viewport()->width()));
 }
 
 void TransmitTable::commitEntry()

@@ -59,10 +59,11 @@ signals:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fitColumns();
-    void showField(const QWidget* field);
+    void showField(const QWidget& field);
     void requestControls(int row);
     void giveBackControls(int top, int bottom);
 

@@ -1,6 +1,6 @@
 #include "gui/traffic/ValueSlider.h"
 
-#include "gui/traffic/WheelGuard.h"
+#include "gui/controls/WheelGuard.h"
 #include "traffic/CanAerospaceEntry.h"
 
 #include <QHBoxLayout>

@@ -3,8 +3,8 @@
 #include "gui/controls/NumberText.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtSpinBox.h"
+#include "gui/controls/WheelGuard.h"
 #include "gui/traffic/PayloadBlock.h"
-#include "gui/traffic/WheelGuard.h"
 #include "traffic/MessageEntry.h"
 
 #include <QCheckBox>
@@ -35,7 +35,6 @@ constexpr int flagWidth = 16;
 Widget825Raw::Widget825Raw(QWidget* parent) : PayloadEditor(parent)
 {
     setMinimumWidth(minimumWidthPixels);
-    resize(width(), firstHeight);
     auto* head = new QGridLayout;
     buildHead(head);
     m_pages = new QStackedWidget(this);
@@ -59,6 +58,7 @@ Widget825Raw::Widget825Raw(QWidget* parent) : PayloadEditor(parent)
     connect(payload(), &PayloadBlock::signalData, this, &Widget825Raw::slotData);
     msg().mode = messageentry::arinc825Mode(msg().mode);
     updateDialog();
+    setFixedHeight(firstHeight); // until a message comes
 }
 
 Widget825Raw::~Widget825Raw() = default;

@@ -2,10 +2,10 @@
 
 #include "gui/controls/QwtComboBox.h"
 #include "gui/controls/QwtSpinBox.h"
+#include "gui/controls/WheelGuard.h"
 #include "gui/traffic/ValueBits.h"
 #include "gui/traffic/ValueLines.h"
 #include "gui/traffic/ValueSlider.h"
-#include "gui/traffic/WheelGuard.h"
 #include "profile/CanAerospaceId.h"
 #include "profile/DataTypes.h"
 #include "traffic/CanAerospaceEntry.h"

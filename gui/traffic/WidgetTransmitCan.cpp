@@ -6,8 +6,8 @@
 #include "gui/controls/QwtHexValidator.h"
 #include "gui/controls/QwtLineEdit.h"
 #include "gui/controls/QwtSpinBox.h"
+#include "gui/controls/WheelGuard.h"
 #include "gui/traffic/PayloadBlock.h"
-#include "gui/traffic/WheelGuard.h"
 #include "traffic/MessageEntry.h"
 
 #include <QGridLayout>

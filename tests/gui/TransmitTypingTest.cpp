@@ -56,14 +56,14 @@ TEST_F(TransmitTyping, TabGoesFromCellToCellAndSelectsNothing)
     EXPECT_TRUE(m_table->selectedRows().empty());
 }
 
-TEST_F(TransmitTyping, FieldThatGetsTheFocusComesIntoView)
+TEST_F(TransmitTyping, FieldThatGetsTheFocusByTabComesIntoView)
 {
     show(40);
     m_dialog->resize(500, 300);
     QApplication::processEvents();
     for (const int row : {30, 0, 20}) {
         QLineEdit* cell = cells(row)[7];
-        cell->setFocus();
+        cell->setFocus(Qt::TabFocusReason);
         const QRect place(cell->mapTo(m_table->viewport(), QPoint()), cell->size());
         EXPECT_TRUE(m_table->viewport()->rect().contains(place)) << row;
     }

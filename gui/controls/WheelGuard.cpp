@@ -1,4 +1,4 @@
-#include "gui/traffic/WheelGuard.h"
+#include "gui/controls/WheelGuard.h"
 
 #include <QEvent>
 #include <QWidget>
