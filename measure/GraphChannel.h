@@ -22,7 +22,8 @@ struct GraphColumn
     std::uint32_t count = 0; ///< filled slots, 1 to 4
     double time = 0.0;       ///< of the first sample
     /// The first value, the lowest and the highest of the later ones, the last. They are filled in
-    /// the order in which the values come.
+    /// the order in which the values come. Of four and more values, only finite ones count for the
+    /// extremes if there is one among the later ones.
     std::array<double, slotCount> values{};
 };
 

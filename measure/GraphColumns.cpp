@@ -9,6 +9,26 @@ constexpr std::size_t lowestSlot = 1;
 constexpr std::size_t highestSlot = 2;
 constexpr std::size_t lastSlot = 3;
 
+// What is no finite number says nothing about the others: it stands only where none of them came.
+void widenExtremes(double& lowest, double& highest, double value)
+{
+    if (!std::isfinite(value)) {
+        return;
+    }
+    if (!std::isfinite(lowest)) {
+        lowest = std::isfinite(highest) ? highest : value;
+    }
+    if (!std::isfinite(highest)) {
+        highest = lowest;
+    }
+    if (lowest > value) {
+        lowest = value;
+    }
+    if (value > highest) {
+        highest = value;
+    }
+}
+
 void addToColumn(GraphColumn& column, double value)
 {
     if (column.count < lastSlot) {
@@ -17,12 +37,7 @@ void addToColumn(GraphColumn& column, double value)
     }
     column.count = GraphColumn::slotCount;
     column.values[lastSlot] = value;
-    if (column.values[lowestSlot] > value) {
-        column.values[lowestSlot] = value;
-    }
-    if (value > column.values[highestSlot]) {
-        column.values[highestSlot] = value;
-    }
+    widenExtremes(column.values[lowestSlot], column.values[highestSlot], value);
 }
 
 void forgetSettled(GraphChannel& channel)

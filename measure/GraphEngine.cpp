@@ -38,6 +38,18 @@ void scaleToSeen(GraphChannel& channel)
     channel.yMax = channel.seenMax + margin;
 }
 
+void forget(GraphChannel& channel)
+{
+    channel.samples.clear();
+    clearColumns(channel);
+    channel.fresh = false;
+    channel.current = 0.0;
+    channel.seenMin = 0.0;
+    channel.seenMax = 0.0;
+    channel.dataMin = 0.0;
+    channel.dataMax = 0.0;
+}
+
 } // namespace
 
 GraphEngine::GraphEngine()
@@ -63,6 +75,7 @@ double GraphEngine::pixelTime() const
 
 void GraphEngine::rebuild()
 {
+    m_columnsPlotWidth = m_state.plotWidth;
     for (GraphChannel& channel : m_state.channels) {
         rebuild(channel);
     }
@@ -262,9 +275,31 @@ void GraphEngine::setParameterYMax(std::uint32_t channel, float yMax)
 {
     if (GraphChannel* target = find(channel)) {
         target->userYMax = static_cast<double>(yMax);
-        rebuild(*target); // the others' range of time is what it was
+        rebuild();
         requestRepaint();
     }
+}
+
+void GraphEngine::clearChannel(std::uint32_t channel)
+{
+    if (GraphChannel* target = find(channel)) {
+        forget(*target);
+        requestRepaint();
+    }
+}
+
+void GraphEngine::removeChannel(std::uint32_t channel)
+{
+    if (find(channel) == nullptr) {
+        return;
+    }
+    auto& channels = m_state.channels;
+    channels.erase(channels.begin() + static_cast<std::ptrdiff_t>(channel));
+    channels.emplace_back();
+    if (m_state.cursorChannel > channel) {
+        --m_state.cursorChannel;
+    }
+    requestRepaint();
 }
 
 void GraphEngine::clearAll()
@@ -415,11 +450,10 @@ void GraphEngine::paint(const GraphTextMetrics& metrics, GraphDrawing& drawing)
     GraphPainter painter(m_state, metrics, drawing);
     painter.paint();
     m_state.labelWidth = painter.labelWidth();
-    const bool hadWidth = m_state.plotWidth > 0.0;
     m_state.plotLeft = m_state.labelWidth + leftOfPlot;
     m_state.plotWidth = m_width - m_state.plotLeft - rightMargin;
-    if (!hadWidth && m_state.plotWidth > 0.0) {
-        rebuild(); // without a width, all samples fell into one column
+    if (m_state.plotWidth != m_columnsPlotWidth) {
+        rebuild(); // the next picture is as wide as this one's labels leave it
     }
 }
 

@@ -54,9 +54,15 @@ public:
     /// The range of a channel without auto-scale. One with an end that is no finite number is
     /// stored as any other; the channel is then drawn without axis and trace.
     ///
-    /// Deliberate: rebuilds no columns, as `setParameterYMax` does.
+    /// Deliberate: makes no columns anew, while `setParameterYMax` does so for all visible
+    /// channels, which takes its time.
     void setParameterYMin(std::uint32_t channel, float yMin);
     void setParameterYMax(std::uint32_t channel, float yMax);
+    /// Forgets what the channel has recorded; how it is drawn stays.
+    void clearChannel(std::uint32_t channel);
+    /// Takes a channel out, with what it has recorded. The ones behind it move up, with theirs; a
+    /// new one comes behind them.
+    void removeChannel(std::uint32_t channel);
     /// Back to the first range, without samples; clock and modes stay.
     void clearAll();
     /// Shows the marked time, one second at least, in manual mode.
@@ -107,4 +113,5 @@ private:
     GraphState m_state;
     int m_width = 0;
     int m_height = 0;
+    double m_columnsPlotWidth = 0.0; ///< the plot's, when the columns were made
 };

@@ -7,6 +7,9 @@
 #include "profile/ValueCodec.h"
 #include "project/ObjectGraph.h"
 
+#include <algorithm>
+#include <tuple>
+
 using zul::MessageCan;
 
 namespace {
@@ -31,7 +34,9 @@ std::uint32_t comparedId(std::uint32_t frameId, const ProfileParameter& paramete
 void feed(const MessageCan& frame, const std::vector<GraphParameter>& parameters,
           GraphEngine& engine)
 {
-    for (std::size_t i = 0; i < parameters.size(); ++i) {
+    // Those without a channel have nowhere to go.
+    const std::size_t count = std::min(parameters.size(), engine.state().channels.size());
+    for (std::size_t i = 0; i < count; ++i) {
         const ProfileParameter& parameter = parameters[i].parameter;
         if (comparedId(frame.id(), parameter) == parameter.id) {
             engine.addValue(static_cast<std::uint32_t>(i), zul::valueOf(frame, parameter));
@@ -40,6 +45,17 @@ void feed(const MessageCan& frame, const std::vector<GraphParameter>& parameters
 }
 
 } // namespace
+
+bool isFedAlike(const ProfileParameter& one, const ProfileParameter& other)
+{
+    const auto fedBy = [](const ProfileParameter& parameter) {
+        return std::tie(parameter.parameterKind, parameter.id, parameter.dtc, parameter.sppByte,
+                        parameter.sppBit, parameter.eppByte, parameter.eppBit, parameter.min,
+                        parameter.max, parameter.endian, parameter.scaleOffset,
+                        parameter.scaleFactor);
+    };
+    return fedBy(one) == fedBy(other);
+}
 
 bool GraphFeed::receive(const MessageContainer& batch, double now, const ObjectGraph* object,
                         GraphEngine& engine)

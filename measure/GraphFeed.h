@@ -5,6 +5,11 @@
 class GraphEngine;
 class MessageContainer;
 class ObjectGraph;
+struct ProfileParameter;
+
+/// Whether the same frames give the same values of both: names, colours and ranges are of no
+/// matter.
+bool isFedAlike(const ProfileParameter& one, const ProfileParameter& other);
 
 /// The way of a frame into the oscilloscope: what is counted, what is taken, and which channels its
 /// values go to.

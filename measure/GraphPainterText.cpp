@@ -5,27 +5,24 @@
 #include "measure/GraphPainter.h"
 #include "measure/GraphScales.h"
 
-#include <array>
 #include <cmath>
-#include <cstdio>
+#include <string>
 
 namespace {
 
 using graphLook::textGap;
 using graphLook::white;
 
-constexpr std::size_t maxNumber = 64;
+// A text runs out of the picture long before.
+constexpr std::size_t mostLetters = 63;
 
 constexpr int timeDecimals = 1;
 constexpr int cursorDecimals = 2;
 constexpr int legendDecimals = 6;
 
-// Bounded: a text runs out of the picture long before.
 std::string number(double value, int decimals)
 {
-    std::array<char, maxNumber> text{};
-    std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
-    return text.data();
+    return valueLabel(value, decimals, mostLetters);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "measure/GraphScale.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -10,8 +11,7 @@
 
 namespace {
 
-// More would leave no room for the plot.
-constexpr std::size_t maxLabelLength = 40;
+constexpr std::size_t longestText = 63;
 // Never reached by the steps that `niceStep` finds: an axis has a tick for each pixel at most.
 constexpr int maxTicks = 20'000;
 // The ends of a range come from single-precision numbers: a tick this part of a step beyond counts
@@ -143,14 +143,14 @@ int valueDecimals(float step)
     return d >= 1.0F || !std::isfinite(d) ? 0 : static_cast<int>(std::fabs(d) + 1.0F);
 }
 
-std::string valueLabel(double tick, int decimals)
+std::string valueLabel(double value, int decimals, std::size_t mostLetters)
 {
-    std::array<char, maxLabelLength + 1> text{};
-    const int length = std::snprintf(text.data(), text.size(), "%.*f", decimals, tick);
-    if (length < 0 || static_cast<std::size_t>(length) >= text.size()) {
-        // The fewest digits that tell it from all other numbers, its neighbours on the axis
+    std::array<char, longestText + 1> text{};
+    const int length = std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
+    if (length < 0 || static_cast<std::size_t>(length) > std::min(mostLetters, longestText)) {
+        // The fewest digits that tell it from all other numbers, its neighbours on an axis
         // included.
-        const auto end = std::to_chars(text.data(), text.data() + maxLabelLength, tick).ptr;
+        const auto end = std::to_chars(text.data(), text.data() + longestText, value).ptr;
         *end = '\0';
     }
     return text.data();

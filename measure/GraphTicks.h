@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,8 @@ std::string timeLabel(double tick);
 
 /// Decimals of the labels of a value axis.
 int valueDecimals(float step);
-/// The label of a tick with so many decimals. One of more than 40 letters is written with a power
+/// Letters of the longest label of a tick: more would leave no room for the plot.
+inline constexpr std::size_t mostLabelLetters = 40;
+/// A number with so many decimals. One of more letters, or of more than 63, is written with a power
 /// of ten, and as many digits as tell it from all others.
-std::string valueLabel(double tick, int decimals);
+std::string valueLabel(double value, int decimals, std::size_t mostLetters = mostLabelLetters);

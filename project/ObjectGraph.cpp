@@ -1,5 +1,7 @@
 #include "project/ObjectGraph.h"
 
+#include "core/Console.h"
+
 namespace {
 
 const QString graphTag = QStringLiteral("Graph");
@@ -91,6 +93,11 @@ void ObjectGraph::readChild(const QDomElement& element)
     m_parameters.clear();
     for (QDomElement child = element.firstChildElement(messageTag); !child.isNull();
          child = child.nextSiblingElement(messageTag)) {
+        if (m_parameters.size() == maxParameters) {
+            zul::print("Oscilloscope: parameters beyond the first %zu are left out\n",
+                       maxParameters);
+            break;
+        }
         GraphParameter parameter;
         RecordReader reader(child);
         describeParameter(reader, parameter);

@@ -3,6 +3,7 @@
 #include "project/GraphParameter.h"
 #include "project/SettingsObject.h"
 
+#include <cstddef>
 #include <vector>
 
 /// `Mode` of an oscilloscope.
@@ -23,6 +24,9 @@ struct GraphSettings
 class ObjectGraph : public SettingsObject<ObjectGraph, GraphSettings, ObjectType::Graph>
 {
 public:
+    /// Parameters beyond these are not read from a file: a window has a row for each.
+    static constexpr std::size_t maxParameters = 1000;
+
     struct Graph
     {
         double xRange = 60.0; ///< seconds

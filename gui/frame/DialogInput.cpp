@@ -68,7 +68,6 @@ void DialogInput::slotFilterOn(bool on)
     }
 }
 
-// There is no setup; the slot lets the header be wired alike in all windows.
 void DialogInput::slotSetup() {}
 
 void DialogInput::slotInputInterface(const QString& name)

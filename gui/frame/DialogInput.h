@@ -47,11 +47,14 @@ protected:
 
     bool m_updating = false; ///< controls are being filled
 
+protected slots:
+    /// Nothing here: for windows that have a setup.
+    virtual void slotSetup();
+
 private slots:
     void slotInputOn(bool on);
     void slotFilterSetup();
     void slotFilterOn(bool on);
-    void slotSetup();
     void slotInputInterface(const QString& name);
 
 private:

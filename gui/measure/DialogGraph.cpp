@@ -2,7 +2,6 @@
 
 #include "core/Clock.h"
 #include "core/Latin1.h"
-#include "gui/frame/DialogFilter.h"
 #include "gui/frame/FileDialogs.h"
 #include "gui/frame/MessageBoxes.h"
 #include "gui/frame/WidgetHeader.h"
@@ -69,7 +68,7 @@ bool takeModes(const GraphState& state, ObjectGraph::Graph& graph)
 } // namespace
 
 DialogGraph::DialogGraph(ObjectGraph* object, QWidget* parent)
-    : DialogBase(object, parent),
+    : DialogInput(object, parent),
       m_graph(object),
       m_feed(zul::wallClock()),
       m_timer(new QTimer(this))
@@ -86,9 +85,8 @@ DialogGraph::~DialogGraph() = default;
 
 void DialogGraph::setObject(Object* object)
 {
-    DialogBase::setObject(object);
+    DialogInput::setObject(object);
     m_graph = dynamic_cast<ObjectGraph*>(object);
-    m_filterDialog->letGo(); // the filter was the former object's
     m_setupDialog->setObject(nullptr);
     m_setupDialog->hide();
 }
@@ -96,8 +94,17 @@ void DialogGraph::setObject(Object* object)
 void DialogGraph::receive(MessageContainer& batch)
 {
     if (m_feed.receive(batch, zul::wallClock(), m_graph, *m_engine)) {
-        m_header->setInputCount(m_feed.frameCount());
+        header()->setInputCount(m_feed.frameCount());
     }
+}
+
+std::optional<DialogInput::Input> DialogGraph::input()
+{
+    if (m_graph == nullptr) {
+        return std::nullopt;
+    }
+    return Input{m_graph->settings().inputOn, m_graph->settings().inputInterface,
+                 m_graph->filter()};
 }
 
 void DialogGraph::updateDialog()
@@ -111,12 +118,10 @@ void DialogGraph::showSettings()
         return;
     }
     const QScopedValueRollback<bool> guard(m_updating, true);
-    m_header->setInputOn(m_graph->settings().inputOn);
-    m_header->setFilterOn(m_graph->filter().isOn());
-    m_header->setOutputOn(false);
-    m_header->setInputInterface(m_graph->settings().inputInterface);
+    showInput();
     refreshTable();
     applySettings();
+    m_setupDialog->refresh();
 }
 
 void DialogGraph::applySettings()
@@ -144,6 +149,7 @@ void DialogGraph::applySettings()
 void DialogGraph::applyChannels()
 {
     const auto& parameters = m_graph->parameters();
+    const auto& channels = m_engine->state().channels;
     for (std::uint32_t i = 0; i < maxParameters; ++i) {
         if (i >= parameters.size()) {
             m_engine->setParameterVisible(i, false);
@@ -152,11 +158,17 @@ void DialogGraph::applyChannels()
         const ProfileParameter& parameter = parameters[i].parameter;
         const Rgb color(parameter.color);
         m_engine->setParameterColor(i, color.red, color.green, color.blue);
+        const bool wasHidden = parameters[i].active && !channels[i].visible;
         m_engine->setParameterVisible(i, parameters[i].active);
         m_engine->setParameterLabels(i, zul::toLatin1(parameter.nme), zul::toLatin1(parameter.pun));
         m_engine->setParameterShowSamples(i, parameter.showSamples);
         m_engine->setParameterYMin(i, static_cast<float>(parameter.yMin));
-        m_engine->setParameterYMax(i, static_cast<float>(parameter.yMax));
+        // Each of these calls makes the columns of all channels anew: only where it tells
+        // something. What was hidden may have columns of another range.
+        const auto yMax = static_cast<float>(parameter.yMax);
+        if (wasHidden || static_cast<float>(channels[i].userYMax) != yMax) {
+            m_engine->setParameterYMax(i, yMax);
+        }
         m_engine->setParameterAutoScale(i, parameter.autoScale);
     }
 }
@@ -192,6 +204,7 @@ void DialogGraph::slotAddParameter()
         return;
     }
     m_graph->parameters().emplace_back();
+    m_engine->clearChannel(static_cast<std::uint32_t>(m_graph->parameters().size() - 1));
     refreshTable();
     applyChannels();
     markEdited();
@@ -203,6 +216,8 @@ void DialogGraph::slotDeleteParameter()
         return;
     }
     m_graph->parameters().erase(m_graph->parameters().begin() + m_selectedRow);
+    // What was recorded stays with its parameter.
+    m_engine->removeChannel(static_cast<std::uint32_t>(m_selectedRow));
     m_selectedRow = noRow;
     refreshTable();
     applyChannels();
@@ -211,28 +226,39 @@ void DialogGraph::slotDeleteParameter()
 
 void DialogGraph::slotSetupParameter()
 {
-    editParameter(m_selectedRow, EditorPlace::WindowCorner);
+    openEditor(m_selectedRow, EditorPlace::WindowCorner);
 }
 
+// Also one that takes the highlight away, as with Control: what was clicked is what Delete removes.
 void DialogGraph::slotParameterClicked(int row, int)
 {
-    m_selectedRow = row;
+    m_table->selectRow(row);
 }
 
 void DialogGraph::slotParameterDoubleClicked(int row, int)
 {
-    m_selectedRow = row;
-    editParameter(row, EditorPlace::WindowCorner);
+    openEditor(row, EditorPlace::WindowCorner);
+}
+
+void DialogGraph::slotSelectedRow()
+{
+    m_selectedRow = m_table->selectedRow();
 }
 
 void DialogGraph::slotContextMenu(QPoint place)
 {
-    editParameter(m_table->rowAt(place.y()), EditorPlace::Anywhere);
+    openEditor(m_table->rowAt(place.y()), EditorPlace::Anywhere);
+}
+
+void DialogGraph::openEditor(int row, EditorPlace place)
+{
+    const auto open = [this, row, place] { editParameter(row, place); };
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
 void DialogGraph::editParameter(int row, EditorPlace place)
 {
-    if (!hasRow(row)) {
+    if (!hasRow(row) || findChild<DialogSelectParameter*>() != nullptr) {
         return;
     }
     auto* editor = new DialogSelectParameter(
@@ -249,11 +275,20 @@ void DialogGraph::editParameter(int row, EditorPlace place)
     const ProfileParameter edited = editor->parameter();
     delete editor;
     if (hasRow(row)) {
-        m_graph->parameters()[static_cast<std::size_t>(row)].parameter = edited;
-        refreshTable();
-        applyChannels();
-        markEdited();
+        takeEdited(row, edited);
     }
+}
+
+void DialogGraph::takeEdited(int row, const ProfileParameter& edited)
+{
+    ProfileParameter& parameter = m_graph->parameters()[static_cast<std::size_t>(row)].parameter;
+    if (!isFedAlike(parameter, edited)) {
+        m_engine->clearChannel(static_cast<std::uint32_t>(row)); // values of something else
+    }
+    parameter = edited;
+    refreshTable();
+    applyChannels();
+    markEdited();
 }
 
 void DialogGraph::slotActive(int row, bool checked)
@@ -262,34 +297,9 @@ void DialogGraph::slotActive(int row, bool checked)
         return;
     }
     m_graph->parameters()[static_cast<std::size_t>(row)].active = checked;
-    m_engine->setParameterVisible(static_cast<std::uint32_t>(row), checked);
     markEdited();
     refreshTable();
-    applyChannels(); // what was hidden may have columns of another range
-}
-
-void DialogGraph::slotInputOn(bool on)
-{
-    if (!m_updating && m_graph != nullptr) {
-        m_graph->settings().inputOn = on;
-        markEdited();
-    }
-}
-
-void DialogGraph::slotFilterSetup()
-{
-    if (m_graph != nullptr) {
-        m_filterDialog->edit(m_graph->filter());
-        markEdited();
-    }
-}
-
-void DialogGraph::slotFilterOn(bool on)
-{
-    if (!m_updating && m_graph != nullptr) {
-        m_graph->filter().setOn(on);
-        markEdited();
-    }
+    applyChannels();
 }
 
 void DialogGraph::slotSetup()
@@ -299,14 +309,6 @@ void DialogGraph::slotSetup()
 
 // Nothing goes out of here; the slot lets the header be wired alike in all windows.
 void DialogGraph::slotOutputOn(bool) {}
-
-void DialogGraph::slotInputInterface(const QString& name)
-{
-    if (m_graph != nullptr) {
-        m_graph->settings().inputInterface = name;
-        markEdited();
-    }
-}
 
 void DialogGraph::slotCommandPress(int id)
 {
@@ -399,6 +401,7 @@ void DialogGraph::keepModes()
 {
     if (m_graph != nullptr && takeModes(m_engine->state(), m_graph->graph())) {
         markEdited();
+        m_setupDialog->refresh();
     }
     syncButtons();
 }
@@ -414,7 +417,7 @@ void DialogGraph::slotTimeout()
                                                           ? ZoomDirection::In
                                                           : ZoomDirection::Out));
     }
-    m_header->setInputCount(m_feed.frameCount()); // the lamp goes out only in such a call
+    header()->setInputCount(m_feed.frameCount()); // the lamp goes out only in such a call
 }
 
 void DialogGraph::slotGraphSetup()

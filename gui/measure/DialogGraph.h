@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/frame/DialogBase.h"
+#include "gui/frame/DialogInput.h"
 #include "measure/GraphFeed.h"
 
 #include <memory>
@@ -8,19 +8,18 @@
 class GraphEngine;
 class ObjectGraph;
 class QTimer;
+struct ProfileParameter;
 class WidgetGraph;
-class WidgetHeader;
 
 namespace gui {
 
-class DialogFilter;
 class DialogGraphSetup;
 class GraphParameterTable;
 class GraphToolBar;
 
 /// The oscilloscope: plots parameters of the frames that come, over the time since the window was
 /// made. What it plots and how stands in its object; samples go with the window.
-class DialogGraph : public DialogBase
+class DialogGraph : public DialogInput
 {
     Q_OBJECT
 
@@ -42,24 +41,26 @@ public:
 
     const GraphEngine& engine() const { return *m_engine; }
 
+protected:
+    std::optional<Input> input() final;
+
+protected slots:
+    void slotSetup() override;
+
 private slots:
     void slotAddParameter();
     void slotDeleteParameter();
     void slotSetupParameter();
     void slotParameterClicked(int row, int column);
     void slotParameterDoubleClicked(int row, int column);
+    void slotSelectedRow();
     void slotActive(int row, bool checked);
-    void slotInputOn(bool on);
-    void slotFilterSetup();
-    void slotFilterOn(bool on);
-    void slotSetup();
     void slotOutputOn(bool on);
     void slotCommandPress(int id);
     void slotCommandRelease(int id);
     void slotManMode();
     void slotTimeout();
     void slotGraphSetup();
-    void slotInputInterface(const QString& name);
     void slotContextMenu(QPoint place);
 
 private:
@@ -87,7 +88,11 @@ private:
     void setSplitMode(bool on);
     void resetAll();
     bool hasRow(int row) const;
+    /// Opens the editor as soon as what calls this has returned: the window may go while the editor
+    /// is open, and with it the control whose event this is.
+    void openEditor(int row, EditorPlace place);
     void editParameter(int row, EditorPlace place);
+    void takeEdited(int row, const ProfileParameter& edited);
     void showGraphSetup();
     void saveSnapshot();
     QPixmap snapshot();
@@ -95,17 +100,14 @@ private:
     ObjectGraph* m_graph;
     GraphFeed m_feed;
     int m_held = noButton;
-    int m_selectedRow = noRow;
-    bool m_updating = false;
+    int m_selectedRow = noRow; // the one that is highlighted
 
     std::unique_ptr<GraphEngine> m_ownEngine; // where there is no OpenGL
     GraphEngine* m_engine = nullptr;          // the plot, or that one
 
-    WidgetHeader* m_header = nullptr;
     GraphParameterTable* m_table = nullptr;
     GraphToolBar* m_tools = nullptr;
     WidgetGraph* m_plot = nullptr; // null where there is no OpenGL
-    DialogFilter* m_filterDialog = nullptr;
     DialogGraphSetup* m_setupDialog = nullptr;
     QTimer* m_timer = nullptr;
 };

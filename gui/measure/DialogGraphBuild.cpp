@@ -1,7 +1,6 @@
 // How the oscilloscope's window is put together.
 
 #include "gui/controls/Look.h"
-#include "gui/frame/DialogFilter.h"
 #include "gui/frame/WidgetHeader.h"
 #include "gui/measure/DialogGraph.h"
 #include "gui/measure/DialogGraphSetup.h"
@@ -41,8 +40,6 @@ QSize DialogGraph::sizeHint() const
 
 void DialogGraph::build()
 {
-    m_header = new WidgetHeader(this);
-    m_header->setMode(WidgetHeader::Mode::Input);
     auto* splitter = new QSplitter(this);
     splitter->addWidget(buildParameters());
     splitter->addWidget(buildPlot());
@@ -51,12 +48,11 @@ void DialogGraph::build()
     splitter->setChildrenCollapsible(false);
     // In the same parts from the start, whatever the panels would like.
     splitter->setSizes({firstSize.width() * parametersStretch, firstSize.width() * plotStretch});
-    m_filterDialog = new DialogFilter(this);
     m_setupDialog = new DialogGraphSetup(this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
     layout->setSpacing(windowMargin);
-    layout->addWidget(m_header);
+    layout->addWidget(header());
     layout->addWidget(splitter, 1);
     setMinimumWidth(leastWidth);
     resize(firstSize);
@@ -124,12 +120,8 @@ QWidget* DialogGraph::buildGraph(QWidget* panel)
 
 void DialogGraph::connectControls()
 {
-    connect(m_header, &WidgetHeader::signalInputOn, this, &DialogGraph::slotInputOn);
-    connect(m_header, &WidgetHeader::signalFilterSetup, this, &DialogGraph::slotFilterSetup);
-    connect(m_header, &WidgetHeader::signalFilterOn, this, &DialogGraph::slotFilterOn);
-    connect(m_header, &WidgetHeader::signalSetup, this, &DialogGraph::slotSetup);
-    connect(m_header, &WidgetHeader::signalOutputOn, this, &DialogGraph::slotOutputOn);
-    connect(m_header, &WidgetHeader::signalInputInterface, this, &DialogGraph::slotInputInterface);
+    connect(header(), &WidgetHeader::signalOutputOn, this, &DialogGraph::slotOutputOn);
+    connect(m_table, &QTableWidget::itemSelectionChanged, this, &DialogGraph::slotSelectedRow);
     connect(m_table, &QTableWidget::cellClicked, this, &DialogGraph::slotParameterClicked);
     connect(m_table, &QTableWidget::cellDoubleClicked, this,
             &DialogGraph::slotParameterDoubleClicked);

@@ -24,6 +24,8 @@ public:
     /// Shows the settings of `object`, which belongs to the caller; null for none, and nothing is
     /// edited then.
     void setObject(ObjectGraph* object);
+    /// Shows the settings as they are now.
+    void refresh();
 
 signals:
     /// Something of the object was changed.
@@ -48,7 +50,6 @@ private:
     void connectControls();
     bool canEdit() const { return m_object != nullptr && !m_updating; }
     void setAllAutoScale(bool on);
-    void refresh();
 
     ObjectGraph* m_object = nullptr;
     bool m_updating = false;

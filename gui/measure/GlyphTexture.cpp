@@ -43,7 +43,8 @@ QFont GlyphTexture::scopeFont()
 GlyphTexture::GlyphTexture(const QFont& font)
     : m_font(font),
       m_height(QFontMetrics(font).height()),
-      m_advance(QFontMetrics(font).horizontalAdvance(QLatin1Char('0')))
+      m_advance(QFontMetrics(font).horizontalAdvance(QLatin1Char('0'))),
+      m_cellWidth(m_advance)
 {
 }
 
@@ -118,7 +119,8 @@ void GlyphTexture::addTo(std::vector<GraphVertex>& corners, const GraphText& tex
 
 int GlyphTexture::width(const std::string& text) const
 {
-    return m_advance * static_cast<int>(text.size());
+    return static_cast<int>(
+        std::lround(static_cast<double>(text.size()) * m_cellWidth / m_pixelRatio));
 }
 
 } // namespace gui

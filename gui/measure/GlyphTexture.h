@@ -43,6 +43,7 @@ public:
     /// 0 before `load`.
     unsigned texture() const { return m_texture; }
 
+    /// Of the text as it is drawn at the pixels that were loaded for; before, at one to one.
     int width(const std::string& text) const override;
     int height() const override { return m_height; }
 
@@ -53,7 +54,7 @@ private:
     int m_height;
     int m_advance; // of each letter
     double m_pixelRatio = 1.0;
-    int m_cellWidth = 0; // of the texture, in its own pixels
+    int m_cellWidth; // of the texture, in its own pixels; letters are drawn as far apart
     int m_cellHeight = 0;
     int m_ascent = 0;
     unsigned m_texture = 0;

@@ -68,4 +68,10 @@ void GraphParameterTable::fill(const std::vector<GraphParameter>& parameters, in
     setAutoScroll(true);
 }
 
+int GraphParameterTable::selectedRow() const
+{
+    const QList<QTableWidgetItem*> selected = selectedItems();
+    return selected.isEmpty() ? -1 : selected.first()->row();
+}
+
 } // namespace gui

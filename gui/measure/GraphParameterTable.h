@@ -22,6 +22,9 @@ public:
     /// The list stays scrolled as it was.
     void fill(const std::vector<GraphParameter>& parameters, int selectedRow);
 
+    /// The row that is highlighted; -1 for none.
+    int selectedRow() const;
+
 signals:
     /// The user switched a parameter on or off.
     void signalActive(int row, bool checked);

@@ -92,9 +92,9 @@ void WidgetGraph::mousePressEvent(QMouseEvent* event)
     }
 }
 
-void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
+void WidgetGraph::letGo(Qt::MouseButton button)
 {
-    switch (event->button()) {
+    switch (button) {
     case Qt::LeftButton:
         orderMarker();
         m_leftHeld = false;
@@ -112,8 +112,26 @@ void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
     update();
 }
 
+void WidgetGraph::letGoAllBut(Qt::MouseButtons held)
+{
+    const auto check = [this, held](bool isHeld, Qt::MouseButton button) {
+        if (isHeld && !held.testFlag(button)) {
+            letGo(button);
+        }
+    };
+    check(m_leftHeld, Qt::LeftButton);
+    check(m_middleHeld, Qt::MiddleButton);
+    check(m_rightHeld, Qt::RightButton);
+}
+
+void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
+{
+    letGo(event->button());
+}
+
 void WidgetGraph::mouseMoveEvent(QMouseEvent* event)
 {
+    letGoAllBut(event->buttons()); // a release may have gone elsewhere
     if (m_leftHeld) {
         moveMarker(event->x());
         emitMarker();
@@ -206,11 +224,18 @@ void WidgetGraph::keyReleaseEvent(QKeyEvent* event)
 
 void WidgetGraph::focusOutEvent(QFocusEvent* event)
 {
-    // Keys that are let go elsewhere are not told.
+    // Keys and buttons that are let go elsewhere are not told.
+    letGoAllBut(Qt::NoButton);
     m_shiftHeld = false;
     m_controlHeld = false;
     m_altHeld = false;
     QGLWidget::focusOutEvent(event);
+}
+
+void WidgetGraph::hideEvent(QHideEvent* event)
+{
+    letGoAllBut(Qt::NoButton);
+    QGLWidget::hideEvent(event);
 }
 
 void WidgetGraph::initializeGL()

@@ -46,9 +46,13 @@ protected:
     void resizeGL(int width, int height) override;
     void paintGL() override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void requestRepaint() override;
+    void letGo(Qt::MouseButton button);
+    /// Lets go of the buttons that are not among these.
+    void letGoAllBut(Qt::MouseButtons held);
     void setModifier(int key, bool isHeld);
     bool runKey(const QKeyEvent& event);
     bool runLetter(int key);

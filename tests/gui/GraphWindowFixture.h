@@ -92,11 +92,23 @@ protected:
                           table().visualItemRect(item).center());
     }
     void feed(MessageContainer batch) const { m_dialog->receive(batch); }
+    /// Runs `action` as soon as a modal dialog is open.
+    template <typename Action>
+    static void whenModal(Action action, int turns = 1000)
+    {
+        QTimer::singleShot(0, qApp, [action, turns] {
+            if (QApplication::activeModalWidget() != nullptr) {
+                action();
+            } else if (turns > 0) {
+                whenModal(action, turns - 1); // what opens it is still on its way
+            }
+        });
+    }
     /// Runs `answer` with the modal dialog that the next action opens, and closes it.
     template <typename Dialog, typename Answer>
     void onDialog(Answer answer)
     {
-        QTimer::singleShot(0, m_dialog, [answer] {
+        whenModal([answer] {
             auto* opened = qobject_cast<Dialog*>(QApplication::activeModalWidget());
             ASSERT_NE(opened, nullptr);
             answer(*opened);

@@ -225,6 +225,7 @@ TEST_F(GraphWindow, DoubleClickOpensTheEditorInTheWindowsCorner)
     const QPoint cell = table().visualItemRect(table().item(1, 1)).center();
     QTest::mouseClick(table().viewport(), Qt::LeftButton, Qt::NoModifier, cell);
     QTest::mouseDClick(table().viewport(), Qt::LeftButton, Qt::NoModifier, cell);
+    QCoreApplication::processEvents();
     EXPECT_EQ(parameter(1).nme, QStringLiteral("Speed"));
     EXPECT_EQ(table().item(1, 1)->text(), QStringLiteral("Speed"));
     EXPECT_EQ(channel(1).name, "Speed");
@@ -241,6 +242,7 @@ TEST_F(GraphWindow, ConfigureOpensTheEditorOfTheSelectedRow)
         QTest::keyClicks(editor.findChild<QLineEdit*>(QStringLiteral("unit")), QStringLiteral("s"));
     });
     click("Configure Interface");
+    QCoreApplication::processEvents();
     EXPECT_EQ(parameter(1).pun, QStringLiteral("Units"));
     EXPECT_EQ(channel(1).unit, "Units");
 }
@@ -250,6 +252,7 @@ TEST_F(GraphWindow, ConfigureWithoutASelectedRowDoesNothing)
     add(1);
     m_project.save(QString());
     click("Configure Interface");
+    QCoreApplication::processEvents();
     EXPECT_FALSE(m_project.isEdited());
 }
 
@@ -261,9 +264,11 @@ TEST_F(GraphWindow, ContextMenuOpensTheEditorOfTheRowBelowThePointer)
         QTest::keyClicks(editor.findChild<QLineEdit*>(QStringLiteral("unit")), QStringLiteral("s"));
     });
     emit table().customContextMenuRequested(table().visualItemRect(table().item(1, 1)).center());
+    QCoreApplication::processEvents();
     EXPECT_EQ(parameter(1).pun, QStringLiteral("Units"));
     m_project.save(QString());
     emit table().customContextMenuRequested(QPoint(5, table().height() - 5)); // below all rows
+    QCoreApplication::processEvents();
     EXPECT_FALSE(m_project.isEdited());
 }
 
@@ -273,8 +278,9 @@ TEST_F(GraphWindow, AWindowThatGoesWhileItsEditorIsOpenDoesNoHarm)
     m_dialog->show();
     clickRow(0);
     QPointer<gui::DialogGraph> window = m_dialog;
-    QTimer::singleShot(0, qApp, [window] { delete window; });
+    whenModal([window] { delete window; });
     click("Configure Interface");
+    QCoreApplication::processEvents();
     EXPECT_EQ(window, nullptr);
     m_dialog = nullptr;
 }

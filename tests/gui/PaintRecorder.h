@@ -24,6 +24,7 @@ struct PaintedPolygon
     QColor brush;
     bool hasOutline;
     bool isConvex;
+    bool isSmooth;
 };
 
 struct PaintedText
@@ -85,7 +86,7 @@ private:
             corners.append(painter()->combinedTransform().map(points[i]));
         }
         polygons.push_back({corners, painter()->brush().color(),
-                            painter()->pen().style() != Qt::NoPen, mode == ConvexMode});
+                            painter()->pen().style() != Qt::NoPen, mode == ConvexMode, isSmooth()});
     }
     void drawTextItem(const QPointF& place, const QTextItem& item) override
     {
