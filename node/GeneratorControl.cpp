@@ -2,6 +2,7 @@
 
 #include "core/Latin1.h"
 #include "node/FrameBytes.h"
+#include "profile/Arinc825Id.h"
 
 namespace {
 
@@ -24,9 +25,9 @@ MessageContainer emptyBatch(const ObjectFunctionGen& object)
     return batch;
 }
 
-std::uint32_t nodeOf(const ObjectFunctionGen& object)
+std::uint32_t nodeOf(const ObjectFunctionGen::Generator& generator)
 {
-    return static_cast<std::uint32_t>(object.generator().nodeId);
+    return static_cast<std::uint32_t>(generator.nodeId);
 }
 
 } // namespace
@@ -69,30 +70,34 @@ MessageContainer GeneratorControl::flash(const ObjectFunctionGen& object, Operat
     return batch;
 }
 
-MessageContainer GeneratorControl::setNodeId(ObjectFunctionGen& object, std::uint32_t newNode)
+MessageContainer GeneratorControl::setNodeId(ObjectFunctionGen& object, const Generator& generator,
+                                             std::uint32_t newNode)
 {
     MessageContainer batch =
-        flash(object, Operation::NodeId, generator::nodeIdRequest(nodeOf(object), newNode));
+        flash(object, Operation::NodeId, generator::nodeIdRequest(nodeOf(generator), newNode));
     // Deliberate: at once, before the node has said that it took it.
     object.generator().nodeId = static_cast<std::int32_t>(newNode);
     return batch;
 }
 
-MessageContainer GeneratorControl::setBaseId(const ObjectFunctionGen& object)
+MessageContainer GeneratorControl::setBaseId(const ObjectFunctionGen& object,
+                                             const Generator& generator)
 {
-    const auto baseId = static_cast<std::uint32_t>(object.generator().nodeBaseId);
-    return flash(object, Operation::BaseId, generator::baseIdRequest(nodeOf(object), baseId));
+    const auto baseId = static_cast<std::uint32_t>(generator.nodeBaseId);
+    return flash(object, Operation::BaseId, generator::baseIdRequest(nodeOf(generator), baseId));
 }
 
-MessageContainer GeneratorControl::setBaudrate(const ObjectFunctionGen& object)
+MessageContainer GeneratorControl::setBaudrate(const ObjectFunctionGen& object,
+                                               const Generator& generator)
 {
-    const auto index = static_cast<std::uint32_t>(object.generator().baudrate);
-    return flash(object, Operation::Baudrate, generator::baudrateRequest(nodeOf(object), index));
+    const auto index = static_cast<std::uint32_t>(generator.baudrate);
+    return flash(object, Operation::Baudrate, generator::baudrateRequest(nodeOf(generator), index));
 }
 
-MessageContainer GeneratorControl::storeData(const ObjectFunctionGen& object)
+MessageContainer GeneratorControl::storeData(const ObjectFunctionGen& object,
+                                             const Generator& generator)
 {
-    return flash(object, Operation::Store, generator::storeRequest(nodeOf(object)));
+    return flash(object, Operation::Store, generator::storeRequest(nodeOf(generator)));
 }
 
 void GeneratorControl::flashTimeOut()
@@ -167,7 +172,9 @@ MessageContainer GeneratorControl::write(const ObjectFunctionGen& object, std::s
                                          std::initializer_list<Kind> kinds)
 {
     MessageContainer batch = emptyBatch(object);
-    if (!object.settings().outputOn || channel >= object.channels().size()) {
+    const bool hasIdentifiers =
+        static_cast<std::uint32_t>(object.generator().nodeBaseId) <= zul::arinc825::maxExtendedId;
+    if (!object.settings().outputOn || !hasIdentifiers || channel >= object.channels().size()) {
         return batch;
     }
     for (const Kind kind : kinds) {

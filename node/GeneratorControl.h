@@ -49,11 +49,16 @@ public:
     /// In the order of the answers, the same node as often as it answered.
     const std::vector<Found>& found() const { return m_found; }
 
-    /// Requests to the node that the object addresses. Each waits for the reply from then on.
-    MessageContainer setNodeId(ObjectFunctionGen& object, std::uint32_t newNode);
-    MessageContainer setBaseId(const ObjectFunctionGen& object);
-    MessageContainer setBaudrate(const ObjectFunctionGen& object);
-    MessageContainer storeData(const ObjectFunctionGen& object);
+    using Generator = ObjectFunctionGen::Generator;
+
+    /// Requests to the node of `generator`, with its settings: those of the moment in which the
+    /// user asked, since an answer to a search may change the object's before he has confirmed.
+    /// Each waits for the reply from then on.
+    MessageContainer setNodeId(ObjectFunctionGen& object, const Generator& generator,
+                               std::uint32_t newNode);
+    MessageContainer setBaseId(const ObjectFunctionGen& object, const Generator& generator);
+    MessageContainer setBaudrate(const ObjectFunctionGen& object, const Generator& generator);
+    MessageContainer storeData(const ObjectFunctionGen& object, const Generator& generator);
     /// No reply has come in time, if none has.
     void flashTimeOut();
     FlashStatus flashStatus() const { return m_flashStatus; }
@@ -76,7 +81,8 @@ public:
     // Writes to the channel of that index. What the channel's settings are is the caller's.
     using Kind = generator::ChannelFrame;
 
-    /// The frames in this order.
+    /// The frames in this order; none where the base identifier is beyond 29 bits, as a garbled
+    /// answer may have it.
     MessageContainer write(const ObjectFunctionGen& object, std::size_t channel,
                            std::initializer_list<Kind> kinds);
     /// All of a channel that is active, of one that is not only that.

@@ -43,3 +43,5 @@ inline constexpr std::array<GeneratorChoice, 12> generatorRanges{{{"0.0-0.01", -
                                                                   {"0.0-1e8", 8},
                                                                   {"0.0-1e9", 9}}};
 inline constexpr std::size_t generatorFrequencyRanges = 5;
+inline constexpr std::int32_t maxFrequencyExponent =
+    generatorRanges[generatorFrequencyRanges - 1].value;

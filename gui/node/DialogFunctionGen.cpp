@@ -6,6 +6,7 @@
 #include "gui/node/GeneratorNodePanel.h"
 #include "gui/node/GeneratorPage.h"
 #include "node/GeneratorScale.h"
+#include "node/GeneratorTables.h"
 
 #include <QListWidget>
 #include <QPointer>
@@ -13,6 +14,7 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace gui {
@@ -214,16 +216,20 @@ void DialogFunctionGen::slotBaudrate(int index)
     }
 }
 
-bool DialogFunctionGen::isConfirmed(const char* question)
+std::optional<ObjectFunctionGen::Generator> DialogFunctionGen::confirmed(const char* question)
 {
     if (m_functionGen == nullptr) {
-        return false;
+        return std::nullopt;
     }
+    const ObjectFunctionGen::Generator meant = m_functionGen->generator();
     const QPointer<DialogFunctionGen> self(this); // the window may close behind the box
     const auto answer =
         MessageBoxes::ask(this, QMessageBox::Warning, QLatin1String(MessageBoxes::warningTitle),
                           QLatin1String(question), {QMessageBox::Yes, QMessageBox::Cancel});
-    return answer == QMessageBox::Yes && !self.isNull() && m_functionGen != nullptr;
+    if (answer != QMessageBox::Yes || self.isNull() || m_functionGen == nullptr) {
+        return std::nullopt;
+    }
+    return meant;
 }
 
 void DialogFunctionGen::flash(MessageContainer batch)
@@ -241,13 +247,15 @@ void DialogFunctionGen::slotFlashNodeId()
     constexpr int lowestNode = 1;
     constexpr int highestNode = 100;
     const QPointer<DialogFunctionGen> self(this); // the window may close behind the box
+    const ObjectFunctionGen::Generator meant = m_functionGen->generator();
     const std::optional<int> node = InputDialogs::integer(
         this, {QStringLiteral("ZUL"), QStringLiteral("Enter new node id:"),
                m_functionGen->generator().nodeId, lowestNode, highestNode, 1});
     if (!node.has_value() || self.isNull() || m_functionGen == nullptr) {
         return;
     }
-    MessageContainer batch = m_control.setNodeId(*m_functionGen, static_cast<std::uint32_t>(*node));
+    MessageContainer batch =
+        m_control.setNodeId(*m_functionGen, meant, static_cast<std::uint32_t>(*node));
     {
         const QScopedValueRollback<bool> guard(m_updating, true);
         m_panel->showGenerator(m_functionGen->generator());
@@ -257,22 +265,22 @@ void DialogFunctionGen::slotFlashNodeId()
 
 void DialogFunctionGen::slotFlashNodeCanId()
 {
-    if (isConfirmed("Are you sure to change the CAN base id ?\n")) {
-        flash(m_control.setBaseId(*m_functionGen));
+    if (const auto meant = confirmed("Are you sure to change the CAN base id ?\n")) {
+        flash(m_control.setBaseId(*m_functionGen, *meant));
     }
 }
 
 void DialogFunctionGen::slotFlashBaudrate()
 {
-    if (isConfirmed("Are you sure to change the baudrate ?\n")) {
-        flash(m_control.setBaudrate(*m_functionGen));
+    if (const auto meant = confirmed("Are you sure to change the baudrate ?\n")) {
+        flash(m_control.setBaudrate(*m_functionGen, *meant));
     }
 }
 
 void DialogFunctionGen::slotFlashParameter()
 {
-    if (isConfirmed("Are you sure to store all data permanently ?\n")) {
-        flash(m_control.storeData(*m_functionGen));
+    if (const auto meant = confirmed("Are you sure to store all data permanently ?\n")) {
+        flash(m_control.storeData(*m_functionGen, *meant));
     }
 }
 
@@ -347,7 +355,8 @@ void DialogFunctionGen::slotFrequencyRange(int exponent)
 void DialogFunctionGen::slotFrequency(int position)
 {
     if (canEdit()) {
-        slotFrequency(static_cast<double>(dialNumber(position, channel().frequencyFactor)));
+        const std::int32_t exponent = std::min(channel().frequencyFactor, maxFrequencyExponent);
+        slotFrequency(static_cast<double>(dialNumber(position, exponent)));
     }
 }
 

@@ -78,7 +78,9 @@ private:
     void showChannel();
     void showFlash();
     void endSearch();
-    bool isConfirmed(const char* question);
+    /// The addressed generator as it was when the question was asked; nothing unless the answer is
+    /// yes.
+    std::optional<ObjectFunctionGen::Generator> confirmed(const char* question);
     /// Sends a request to the node and waits for its reply.
     void flash(MessageContainer batch);
     void sendFrames(MessageContainer batch);

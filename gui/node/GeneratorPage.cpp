@@ -144,7 +144,8 @@ void GeneratorPage::showChannel(const ObjectFunctionGen::GeneratorChannel& chann
         static_cast<int>(std::min(channel.canId, zul::arinc825::maxExtendedId)));
     m_controls.dataType->setData(channel.dataType);
     m_controls.separation->setValue(channel.separation);
-    showNumber(m_controls.frequency, channel.frequencyFactor, channel.frequency);
+    showNumber(m_controls.frequency, std::min(channel.frequencyFactor, maxFrequencyExponent),
+               channel.frequency);
     showNumber(m_controls.amplitude, channel.amplitudeFactor, channel.amplitude);
     showNumber(m_controls.offset, channel.offsetFactor, channel.offset);
 }

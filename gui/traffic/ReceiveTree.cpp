@@ -11,6 +11,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <utility>
 
 namespace gui {
 
@@ -185,9 +186,10 @@ int ReceiveTree::rowOf(int place) const
 bool ReceiveTree::isBefore(const ReceiveTable& table, const Sorting& sorting, int left,
                            int right) const
 {
-    return sorting.order == Qt::AscendingOrder
-               ? isReceiveRowLess(table, m_mode, sorting.column, left, right)
-               : isReceiveRowLess(table, m_mode, sorting.column, right, left);
+    if (sorting.order == Qt::DescendingOrder) {
+        std::swap(left, right);
+    }
+    return isReceiveRowLess(table, m_mode, sorting.column, left, right);
 }
 
 // Values may have changed since the rows were sorted.

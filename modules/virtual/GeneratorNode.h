@@ -53,8 +53,6 @@ public:
     void skipTo(BusTime time) override;
     void observe(const BusFrame& frame, BusTime end) override;
 
-    const GeneratorState& state() const { return m_state; }
-
 private:
     struct Output
     {

@@ -20,7 +20,9 @@ public:
     explicit NodeReplies(NodeFault fault) : m_fault(fault) {}
 
     /// Answers what has left the bus at `time`.
-    void add(BusFrame frame, BusTime time);
+    void add(const BusFrame& frame, BusTime time);
+    /// The answer as it would go out; ready never if the node is silent.
+    PendingFrame prepared(BusFrame frame, BusTime time) const;
 
     bool isEmpty() const { return m_frames.empty(); }
     /// The next answer, which there must be.

@@ -54,27 +54,30 @@ ServerNode::ServerNode(const NodeSettings& settings)
 {
 }
 
-BusTime ServerNode::deadline() const
-{
-    return m_transfer ? m_transfer->session.deadline() : never;
-}
-
 BusTime ServerNode::readyAt() const
 {
-    return std::min(m_replies.readyAt(), deadline());
+    return std::min(m_replies.readyAt(), m_givingUp.readyAt);
 }
 
 const PendingFrame& ServerNode::offer(BusTime start)
 {
-    if (m_replies.isEmpty()) {
-        finish(UploadSession::Error::Number, start); // the deadline has passed
-    }
-    return m_replies.front();
+    m_offersGivingUp = m_replies.readyAt() > start;
+    return m_offersGivingUp ? m_givingUp : m_replies.front();
 }
 
 void ServerNode::sent(BusTime)
 {
-    m_replies.pop();
+    if (m_offersGivingUp) {
+        endTransfer();
+    } else {
+        m_replies.pop();
+    }
+}
+
+void ServerNode::endTransfer()
+{
+    m_transfer.reset();
+    m_givingUp.readyAt = never;
 }
 
 void ServerNode::skipTo(BusTime) {} // whoever asked still waits
@@ -123,7 +126,6 @@ void ServerNode::takeUploadMessage(const BusFrame& frame, BusTime end)
     }
     m_transfer->isConfirmed = true;
     if (m_settings.fault == NodeFault::NoAck) {
-        m_transfer.reset();
         return;
     }
     BusFrame ack = answerTo(frame.id, ackBytes);
@@ -141,7 +143,7 @@ void ServerNode::startTransfer(const BusFrame& request, BusTime end)
     putBigEndian(answer, 4, m_pacing.blockSize, 2);
     putBigEndian(answer, 6, m_pacing.blockSeparation, 2);
     m_replies.add(answer, end);
-    m_transfer.reset();
+    endTransfer();
     if (!isRefused) {
         m_transfer.emplace(
             Transfer{request.id, UploadSession(bigEndian32(request, 4), m_pacing), false});
@@ -158,20 +160,28 @@ void ServerNode::takeData(const BusFrame& frame, BusTime end)
     const bool fallsSilent =
         m_settings.fault == NodeFault::NoEnd && session.framesTaken() >= session.frameCount() / 2;
     if (fallsSilent) {
-        m_transfer.reset();
+        endTransfer();
     } else if (session.isComplete()) {
-        finish(session.error(), end);
+        finish(end);
+    } else {
+        m_givingUp = m_replies.prepared(endOf(*m_transfer, UploadSession::Error::Number),
+                                        session.deadline());
     }
 }
 
-void ServerNode::finish(UploadSession::Error error, BusTime end)
+BusFrame ServerNode::endOf(const Transfer& transfer, UploadSession::Error error)
 {
     const bool isRight = error == UploadSession::Error::None;
-    BusFrame answer = answerTo(m_transfer->requestId, isRight ? ackBytes : errorBytes);
+    BusFrame answer = answerTo(transfer.requestId, isRight ? ackBytes : errorBytes);
     putBigEndian(answer, 0, uploadService, 2);
     answer.data.at(2) = static_cast<std::uint8_t>(error);
-    m_replies.add(answer, end);
-    m_transfer.reset();
+    return answer;
+}
+
+void ServerNode::finish(BusTime end)
+{
+    m_replies.add(endOf(*m_transfer, m_transfer->session.error()), end);
+    endTransfer();
 }
 
 } // namespace canvirtual

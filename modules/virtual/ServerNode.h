@@ -37,15 +37,18 @@ private:
     void identify(const BusFrame& request, BusTime end);
     void takeUploadMessage(const BusFrame& frame, BusTime end);
     bool isConfirmation(const BusFrame& frame) const;
-    BusTime deadline() const;
     void startTransfer(const BusFrame& request, BusTime end);
     void takeData(const BusFrame& frame, BusTime end);
-    void finish(UploadSession::Error error, BusTime end);
+    void finish(BusTime end);
+    void endTransfer();
+    static BusFrame endOf(const Transfer& transfer, UploadSession::Error error);
 
     NodeSettings m_settings;
     NodePacing m_pacing;
     NodeReplies m_replies;
     std::optional<Transfer> m_transfer;
+    PendingFrame m_givingUp = makePending({}, never); ///< what is told when the data stay out
+    bool m_offersGivingUp = false;
 };
 
 } // namespace canvirtual

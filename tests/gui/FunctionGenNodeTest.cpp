@@ -130,6 +130,7 @@ TEST_F(FunctionGenWindow, BaudrateAndStoreAskToo)
     EXPECT_EQ(m_outlet.frames.back(), "128:0700067b");
     reply({7, 0, 6, 1});
     EXPECT_EQ(status(), "Error #ff9696");
+    EXPECT_EQ(buttons(), "on on on on ");
 }
 
 TEST_F(FunctionGenWindow, CancelledQuestionsSendNothing)

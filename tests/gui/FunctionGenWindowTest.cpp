@@ -218,6 +218,39 @@ TEST_F(FunctionGenWindow, DialCanBeTurnedStepByStepThroughEveryRange)
     }
 }
 
+TEST_F(FunctionGenWindow, EveryDialHasItsOwnRange)
+{
+    channel().frequencyFactor = 2;
+    channel().amplitudeFactor = 3;
+    channel().offsetFactor = 4;
+    m_dialog->updateDialog();
+    for (const char* dial : {"frequencyDial", "amplitudeDial", "offsetDial"}) {
+        QTest::keyClick(control<QDial>(dial), Qt::Key_End);
+    }
+    EXPECT_FLOAT_EQ(channel().frequency, 100.0F);
+    EXPECT_FLOAT_EQ(channel().amplitude, 1000.0F);
+    EXPECT_FLOAT_EQ(channel().offset, 10000.0F);
+}
+
+TEST_F(FunctionGenWindow, FrequencyHasNoRangeAboveItsLast)
+{
+    channel().frequencyFactor = 9; // from a foreign file
+    m_dialog->updateDialog();
+    QTest::keyClick(control<QDial>("frequencyDial"), Qt::Key_End);
+    EXPECT_FLOAT_EQ(channel().frequency, 100.0F);
+    EXPECT_EQ(control<QComboBox>("frequencyRange")->currentText(), QLatin1String("0.0-100.0"));
+}
+
+TEST_F(FunctionGenWindow, NumberThatIsBeingTypedBelongsToThePageThatIsLeft)
+{
+    control<QSpinBox>("canId")->setFocus();
+    control<QSpinBox>("canId")->selectAll();
+    QTest::keyClicks(control<QSpinBox>("canId"), QStringLiteral("1700"));
+    tabs()->setCurrentIndex(2);
+    EXPECT_EQ(channel(0).canId, 1700U);
+    EXPECT_EQ(channel(2).canId, 1230U);
+}
+
 TEST_F(FunctionGenWindow, HeaderCountsFramesBothWays)
 {
     reply({1, 2, 3, 4}, 500);

@@ -206,6 +206,7 @@ TEST_F(NodeServiceWindow, ServiceChoosesThePage)
     deliver(0, {}); // for nobody
     QMetaObject::invokeMethod(m_dialog, "slotServiceSelect", Q_ARG(int, 0), Q_ARG(int, 0));
     EXPECT_NE(qobject_cast<gui::WidgetNsArincIds*>(page()), nullptr);
+    EXPECT_EQ(status(), "Idle #969696");
 }
 
 TEST_F(NodeServiceWindow, PageHasItsControls)

@@ -170,7 +170,7 @@ TEST_F(GeneratorControlTest, OnlyStandardDataFramesAreReplies)
 
 TEST_F(GeneratorControlTest, NodeIdRequestNamesBothAndTheNewOneIsAddressedAtOnce)
 {
-    const MessageContainer batch = m_control.setNodeId(m_object, 55);
+    const MessageContainer batch = m_control.setNodeId(m_object, m_object.generator(), 55);
     EXPECT_EQ(texts(batch), (Texts{"128: 07 0A 0B 37"}));
     EXPECT_EQ(batch.srcDest(), "CAN 2");
     EXPECT_EQ(m_object.generator().nodeId, 55);
@@ -179,9 +179,12 @@ TEST_F(GeneratorControlTest, NodeIdRequestNamesBothAndTheNewOneIsAddressedAtOnce
 
 TEST_F(GeneratorControlTest, OtherRequestsCarryTheObjectsSettings)
 {
-    EXPECT_EQ(texts(m_control.setBaseId(m_object)), (Texts{"128: 07 04 6E 00 00 00 03 E8"}));
-    EXPECT_EQ(texts(m_control.setBaudrate(m_object)), (Texts{"128: 07 0A 0A 00 02"}));
-    EXPECT_EQ(texts(m_control.storeData(m_object)), (Texts{"128: 07 00 06 7B"}));
+    EXPECT_EQ(texts(m_control.setBaseId(m_object, m_object.generator())),
+              (Texts{"128: 07 04 6E 00 00 00 03 E8"}));
+    EXPECT_EQ(texts(m_control.setBaudrate(m_object, m_object.generator())),
+              (Texts{"128: 07 0A 0A 00 02"}));
+    EXPECT_EQ(texts(m_control.storeData(m_object, m_object.generator())),
+              (Texts{"128: 07 00 06 7B"}));
 }
 
 TEST_F(GeneratorControlTest, EveryRequestWaitsForItsOwnReply)
@@ -191,10 +194,11 @@ TEST_F(GeneratorControlTest, EveryRequestWaitsForItsOwnReply)
         std::uint8_t serviceCode;
         std::function<void()> request;
     };
-    const std::array<Operation, 4> operations{{{11, [this] { m_control.setNodeId(m_object, 1); }},
-                                               {110, [this] { m_control.setBaseId(m_object); }},
-                                               {10, [this] { m_control.setBaudrate(m_object); }},
-                                               {6, [this] { m_control.storeData(m_object); }}}};
+    const std::array<Operation, 4> operations{
+        {{11, [this] { m_control.setNodeId(m_object, m_object.generator(), 1); }},
+         {110, [this] { m_control.setBaseId(m_object, m_object.generator()); }},
+         {10, [this] { m_control.setBaudrate(m_object, m_object.generator()); }},
+         {6, [this] { m_control.storeData(m_object, m_object.generator()); }}}};
     for (const Operation& operation : operations) {
         for (const std::uint8_t serviceCode : Codes{11, 110, 10, 6, 111, 0, 7}) {
             operation.request();
@@ -221,7 +225,7 @@ TEST_F(GeneratorControlTest, TimeoutShowsOnlyWhileWaitingAndALateReplyStillCount
 {
     m_control.flashTimeOut();
     EXPECT_EQ(m_control.flashStatus(), Status::None);
-    m_control.storeData(m_object);
+    m_control.storeData(m_object, m_object.generator());
     m_control.flashTimeOut();
     EXPECT_EQ(m_control.flashStatus(), Status::Timeout);
     m_control.receive(reply({7, 0, 6, 0}), m_object);
@@ -266,6 +270,22 @@ TEST_F(GeneratorControlTest, FramesNameTheirChannel)
     EXPECT_EQ(m_control.writeSetting(m_object, 4, Kind::CanId).size(), 0U);
 }
 
+TEST_F(GeneratorControlTest, BaseIdentifierBeyond29BitsReachesNoChannel)
+{
+    m_control.receive(reply({33, 4, 111, 0, 0xFF, 0xFF, 0xFF, 0xFF}), m_object);
+    EXPECT_EQ(m_control.writeActivation(m_object, 0).size(), 0U);
+    m_object.generator().nodeBaseId = 0x1FFFFFFF;
+    EXPECT_EQ(m_control.writeActivation(m_object, 0).size(), 5U);
+}
+
+TEST_F(GeneratorControlTest, RequestGoesToTheNodeThatTheUserMeant)
+{
+    const ObjectFunctionGen::Generator meant = m_object.generator();
+    m_control.receive(reply({33, 4, 111, 0, 0, 0, 0, 1}), m_object);
+    EXPECT_EQ(texts(m_control.setBaseId(m_object, meant)), (Texts{"128: 07 04 6E 00 00 00 03 E8"}));
+    EXPECT_EQ(texts(m_control.storeData(m_object, meant)), (Texts{"128: 07 00 06 7B"}));
+}
+
 TEST_F(GeneratorControlTest, MessageCodeWrapsAfter255)
 {
     for (int i = 0; i < 255; ++i) {
@@ -280,7 +300,7 @@ TEST_F(GeneratorControlTest, NothingIsSentWhileTheOutputIsOff)
     m_control.startSearch();
     EXPECT_EQ(m_control.searchStep(m_object).size(), 0U);
     EXPECT_EQ(m_control.searchNode(), 1U);
-    EXPECT_EQ(m_control.storeData(m_object).size(), 0U);
+    EXPECT_EQ(m_control.storeData(m_object, m_object.generator()).size(), 0U);
     EXPECT_EQ(m_control.writeActivation(m_object, 0).size(), 0U);
     EXPECT_EQ(m_control.writeSetting(m_object, 0, Kind::CanId).size(), 0U);
     EXPECT_EQ(m_control.sentTotal(), 0U);

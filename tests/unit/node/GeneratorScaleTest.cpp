@@ -39,8 +39,9 @@ TEST(GeneratorScale, FullDialIsTheRangesLargestNumber)
 
 TEST(GeneratorScale, PowerIsOfSinglePrecision)
 {
-    EXPECT_EQ(dialNumber(333, -2),
-              static_cast<float>(333 * 0.001 * static_cast<double>(std::pow(10.0F, -2.0F))));
+    // A power of double precision gives the next numbers above.
+    EXPECT_EQ(dialNumber(15, -2), 0.00014999999257270247F);
+    EXPECT_EQ(dialNumber(19, -2), 0.00018999999156221747F);
 }
 
 TEST(GeneratorScale, DialShowsTheNumberCutNotRounded)

@@ -143,6 +143,14 @@ TEST_F(ServerNodeTest, WrongDataEndWithFourBytesAndTheReason)
     agree(4);
     sendBytes(dataId, {0, 0, 0}); // too short
     EXPECT_EQ(answers(), (Texts{"10a03c09: 00 02 01 00"}));
+    agree(4);
+    sendBytes(dataId, {0, 0, 0, 0, 0}); // too long
+    EXPECT_EQ(answers(), (Texts{"10a03c09: 00 02 01 00"}));
+    agree(16);
+    sendBytes(dataId, Bytes(7, 0)); // short in the middle; the checksum is wrong, too
+    sendBytes(dataId, Bytes(8, 0));
+    sendBytes(dataId, {0});
+    EXPECT_EQ(answers(), (Texts{"10a03c09: 00 02 01 00"}));
 }
 
 TEST_F(ServerNodeTest, FramesThatComeTooEarlyAreTold)
@@ -183,6 +191,40 @@ TEST_F(ServerNodeTest, DataThatEndTooSoonAreTold)
     EXPECT_EQ(answers(200 * millisecond), (Texts{"10a03c09: 00 02 04 00"}));
     sendBytes(dataId, Bytes(8, 0));
     EXPECT_EQ(answers(2 * second), Texts());
+}
+
+TEST_F(ServerNodeTest, SilentOneTellsNothingOfDataThatEndTooSoon)
+{
+    open(NodeFault::Silent);
+    requestUpload(80);
+    confirm();
+    sendBytes(dataId, Bytes(8, 0));
+    EXPECT_EQ(answers(3 * second), Texts());
+    sendBytes(request, {0, 0});
+    EXPECT_EQ(answers(), Texts());
+}
+
+TEST_F(ServerNodeTest, LateOneTellsLateThatDataEndTooSoon)
+{
+    open(NodeFault::Late);
+    requestUpload(80);
+    EXPECT_EQ(answers(2 * second).size(), 1U);
+    confirm();
+    EXPECT_EQ(answers(2 * second), (Texts{ackText}));
+    sendBytes(dataId, Bytes(8, 0));
+    EXPECT_EQ(answers(2'400 * millisecond), Texts());
+    EXPECT_EQ(answers(200 * millisecond), (Texts{"10a03c09: 00 02 04 00"}));
+}
+
+TEST_F(ServerNodeTest, AnswersKeepTheirTimeBesideAnUpload)
+{
+    open();
+    agree(80);
+    sendBytes(dataId, Bytes(8, 0));
+    EXPECT_EQ(answers(990 * millisecond), Texts());
+    sendBytes(request, {0, 0});
+    EXPECT_EQ(answers(30 * millisecond),
+              (Texts{"10a03c09: 00 00 03 39 00 03 00 4D", "10a03c09: 00 02 04 00"}));
 }
 
 TEST_F(ServerNodeTest, SecondConfirmationChangesNothing)
@@ -292,15 +334,18 @@ TEST_F(ServerNodeTest, WithoutAckTheConfirmationStaysUnanswered)
     requestUpload(4);
     EXPECT_EQ(answers().size(), 1U);
     confirm();
+    confirm();
     EXPECT_EQ(answers(), Texts());
 }
 
 TEST_F(ServerNodeTest, WithoutEndTheDataStayUnanswered)
 {
     open(NodeFault::NoEnd);
-    agree(4);
-    sendBytes(dataId, {0, 0, 0, 0});
-    EXPECT_EQ(answers(), Texts());
+    agree(80);
+    for (int i = 0; i < 6; ++i) { // of eleven
+        sendBytes(dataId, Bytes(8, 0));
+    }
+    EXPECT_EQ(answers(3 * second), Texts()) << "nor are they told to end too soon";
 }
 
 TEST_F(ServerNodeTest, AnswersAreGivenAlsoAfterALongPause)
