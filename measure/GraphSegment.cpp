@@ -10,12 +10,12 @@ using Coordinate = double GraphPlace::*;
 
 // Moves an end that lies beyond a bound along the line to it. Counting from the end that stays
 // keeps the digits of the nearer one.
-void pullIn(GraphPlace& end, const GraphPlace& other, Coordinate along, Coordinate across)
+void pullIn(GraphPlace& end, const GraphPlace& anchor, Coordinate along, Coordinate across)
 {
     const double bound = std::copysign(farthestPixel, end.*along);
     if (std::fabs(end.*along) > farthestPixel) {
-        const double part = (bound - other.*along) / (end.*along - other.*along);
-        end.*across = other.*across + part * (end.*across - other.*across);
+        const double part = (bound - anchor.*along) / (end.*along - anchor.*along);
+        end.*across = anchor.*across + part * (end.*across - anchor.*across);
         end.*along = bound;
     }
 }
