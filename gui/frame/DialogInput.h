@@ -48,13 +48,11 @@ protected:
     bool m_updating = false; ///< controls are being filled
 
 protected slots:
-    /// Nothing here: for windows that have a setup.
-    virtual void slotSetup();
-
-private slots:
     void slotInputOn(bool on);
     void slotFilterSetup();
     void slotFilterOn(bool on);
+    /// Nothing here: for windows that have a setup.
+    virtual void slotSetup();
     void slotInputInterface(const QString& name);
 
 private:
