@@ -114,8 +114,8 @@ TEST(DeviceSettings, NodeHasItsOwnProperties)
     EXPECT_EQ(before.at("NodeId"), "255");
     EXPECT_EQ(before.at("NodePacing"), "3");
     EXPECT_EQ(before.at("NodeFault"), "6");
-    for (const auto& [key, tooLarge] : Properties{
-             {"Node", "3"}, {"NodeId", "256"}, {"NodePacing", "4"}, {"NodeFault", "7"}}) {
+    for (const auto& [key, tooLarge] :
+         Properties{{"Node", "3"}, {"NodeId", "256"}, {"NodePacing", "4"}, {"NodeFault", "7"}}) {
         EXPECT_TRUE(settings.set(key, tooLarge));
         EXPECT_TRUE(settings.set(key, "-1"));
         EXPECT_TRUE(settings.set(key, "none"));
