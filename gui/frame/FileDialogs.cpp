@@ -40,21 +40,20 @@ QString choose(const QString& title, const QString& filter, const QString& path,
 
 // The chosen path. The dialog is on the heap: its parent may go, with all its children, while it is
 // open.
-QString run(const QPointer<QFileDialog>& dialog, const QString& path)
+QString run(QFileDialog* dialog, const QString& path)
 {
     if (QFileInfo(path).isDir()) {
         dialog->setDirectory(path);
     } else if (!path.isEmpty()) {
         dialog->selectFile(path);
     }
+    const QPointer<QFileDialog> guard(dialog);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    QString chosen;
-    if (dialog != nullptr) {
-        if (isAccepted) {
-            chosen = dialog->selectedFiles().value(0);
-        }
-        delete dialog;
+    if (guard.isNull()) {
+        return {};
     }
+    QString chosen = isAccepted ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
     return chosen;
 }
 
@@ -64,7 +63,7 @@ QString FileDialogs::openFile(QWidget* parent, const QString& title, const QStri
                               const QString& path)
 {
     return choose(title, filter, path, [&] {
-        const QPointer<QFileDialog> dialog = new QFileDialog(parent, title, QString(), filter);
+        auto* dialog = new QFileDialog(parent, title, QString(), filter);
         dialog->setFileMode(QFileDialog::ExistingFile);
         return run(dialog, path);
     });
@@ -75,7 +74,7 @@ QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QStri
 {
     return choose(title, filter, path, [&] {
         // The static chooser knows no suffix: it would ask about one name, and another be written.
-        const QPointer<QFileDialog> dialog = new QFileDialog(parent, title, QString(), filter);
+        auto* dialog = new QFileDialog(parent, title, QString(), filter);
         dialog->setAcceptMode(QFileDialog::AcceptSave);
         dialog->setFileMode(QFileDialog::AnyFile);
         dialog->setDefaultSuffix(defaultSuffix);

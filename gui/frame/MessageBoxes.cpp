@@ -52,8 +52,8 @@ MessageBoxes::ask(QWidget* parent, QMessageBox::Icon icon, const QString& title,
         return answer;
     }
     // On the heap: the parent may go, with all its children, while the box is open.
-    const QPointer<QMessageBox> box =
-        new QMessageBox(icon, title, text, QMessageBox::NoButton, parent);
+    auto* box = new QMessageBox(icon, title, text, QMessageBox::NoButton, parent);
+    const QPointer<QMessageBox> guard(box);
     box->setTextFormat(Qt::PlainText);
     // One role for all: a desktop's own order of roles would move the buttons.
     std::vector<QPushButton*> made;
@@ -67,7 +67,7 @@ MessageBoxes::ask(QWidget* parent, QMessageBox::Icon icon, const QString& title,
     }
     box->exec();
     auto answer = buttons.empty() ? QMessageBox::NoButton : buttons.back();
-    if (box != nullptr) {
+    if (!guard.isNull()) {
         const auto clicked = std::find(made.begin(), made.end(), box->clickedButton());
         if (clicked != made.end()) {
             answer = buttons[static_cast<std::size_t>(clicked - made.begin())];
