@@ -161,6 +161,38 @@ TEST_F(GeneratorNodeTest, OnlyWhatIsStoredOutlivesThePower)
     EXPECT_EQ(replies(), (Texts{"81: 09 04 6F 00 00 00 07 D0"}));
 }
 
+TEST_F(GeneratorNodeTest, NodeIdAndChannelsAreStoredToo)
+{
+    open();
+    sendBytes(requestId, {9, 10, 11, 33});
+    sendBytes(1003, {33, 4, 1, 0, 0, 0, 0x05, 0xDC}); // identifier 1500
+    sendBytes(1004, {33, 15, 1, 0, 20, 7, 1, 0x11});
+    sendBytes(requestId, {33, 0, 6, 123});
+    answers();
+    switchOffAndOn();
+    sendBytes(requestId, {33, 0, 111, 0});
+    EXPECT_EQ(replies(), (Texts{"81: 21 04 6F 00 00 00 03 E8"}));
+    EXPECT_EQ(answers(), (Texts{"5dc: 21 07 00 00 00 01"})); // square of AS_USHORT, every 20 ms
+}
+
+TEST_F(GeneratorNodeTest, SilentOneObeysAndAnswersNothing)
+{
+    open(NodeFault::Silent);
+    sendBytes(requestId, {9, 0, 111, 0});
+    sendBytes(requestId, {9, 10, 11, 33});
+    EXPECT_EQ(answers(), Texts());
+    sendBytes(1004, {33, 15, 1, 0, 20, 7, 1, 0x11});
+    EXPECT_EQ(answers(30 * millisecond), (Texts{"4cf: 21 07 00 00 00 01"}));
+}
+
+TEST_F(GeneratorNodeTest, LateOneAnswersAfterASecondAndAHalf)
+{
+    open(NodeFault::Late);
+    sendBytes(requestId, {9, 0, 6, 123});
+    EXPECT_EQ(answers(1'490 * millisecond), Texts());
+    EXPECT_EQ(answers(), (Texts{"81: 09 00 06 00"}));
+}
+
 TEST_F(GeneratorNodeTest, AnotherNumberMakesItAnotherGenerator)
 {
     open();
