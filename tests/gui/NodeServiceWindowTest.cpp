@@ -11,7 +11,6 @@
 #include "profile/ProfileStore.h"
 #include "project/ObjectNodeService.h"
 #include "project/Project.h"
-#include "tests/support/ConsoleCapture.h"
 #include "tests/support/ProbeObjects.h"
 #include "tests/support/TestHome.h"
 
@@ -169,7 +168,6 @@ protected:
             .toStdString();
     }
 
-    zul::test::ConsoleCapture m_console;
     zul::test::TestHome m_home;
     Project m_project{{ObjectNodeService::typeInfo()}, m_home.file(QStringLiteral("default.zul"))};
     Outlet m_outlet;

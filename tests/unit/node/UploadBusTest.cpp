@@ -3,7 +3,6 @@
 #include "node/IdentificationClient.h"
 #include "node/ServiceLink.h"
 #include "node/UploadClient.h"
-#include "tests/support/ConsoleCapture.h"
 #include "tests/support/TestHome.h"
 #include "tests/unit/virtual/BusFixture.h"
 
@@ -146,7 +145,6 @@ protected:
         return error;
     }
 
-    zul::test::ConsoleCapture m_console;
     zul::test::TestHome m_home;
     QByteArray m_contents;
     std::unique_ptr<canvirtual::VirtualDevice> m_server;

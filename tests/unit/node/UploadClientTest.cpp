@@ -48,7 +48,6 @@ protected:
         ack();
     }
 
-    ConsoleCapture m_console;
     zul::test::TestHome m_home;
     zul::test::ServiceTestLink m_link;
     UploadClient m_client{m_link};
@@ -238,10 +237,12 @@ TEST_F(UploadClientTest, FileThatIsTooLargeIsNotSentAndTheConsoleSaysSo)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     ASSERT_TRUE(file.resize(UploadClient::maxFileBytes + 1)); // takes no room on the disk
     file.close();
+    ConsoleCapture console;
     m_client.setFile(path);
     startUpload();
+    const std::string written = console.out();
     EXPECT_EQ(m_link.sent.size(), 2U);
-    EXPECT_NE(m_console.out().find("DUS file too large: "), std::string::npos);
+    EXPECT_NE(written.find("DUS file too large: "), std::string::npos);
 }
 
 TEST_F(UploadClientTest, ProgressFollowsWhatTheDeviceHasStillToSend)
@@ -316,13 +317,13 @@ TEST_F(UploadClientTest, AnswersBeforeTheRequestAndAfterTheEndChangeNothing)
 
 TEST_F(UploadClientTest, ConsoleTellsRequestsAndStates)
 {
+    ConsoleCapture console; // not in the fixture: it would take failures, too
     chooseFile("abcd");
     startUpload();
     ack();
     m_client.timeOut();
-    EXPECT_EQ(m_console.out(),
-              "NEW STATE 1\nDUS send Id 0x10040000\nDUS requested Id 0x10000000 8\n"
-              "NEW STATE 2\nNEW STATE 3\nNEW STATE 4\nNEW STATE 10\n");
+    EXPECT_EQ(console.out(), "NEW STATE 1\nDUS send Id 0x10040000\nDUS requested Id 0x10000000 8\n"
+                             "NEW STATE 2\nNEW STATE 3\nNEW STATE 4\nNEW STATE 10\n");
 }
 
 } // namespace
