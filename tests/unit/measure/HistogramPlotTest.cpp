@@ -3,12 +3,15 @@
 #include "measure/Milliseconds.h"
 #include "measure/SpreadHistogram.h"
 #include "measure/SpreadPlot.h"
+#include "tests/unit/measure/BusLoadSamples.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
 #include <random>
 
 namespace {
+
+using zul::test::loadOf;
 
 // A widget of 630 x 400 has its plot from 80 to 580 and from 150 to 350.
 constexpr PlotSize size{630, 400};
@@ -74,16 +77,6 @@ SpreadHistogram someSpread()
         spread.add(time, 1.0);
     }
     return spread;
-}
-
-BusLoadHistogram loadOf(std::uint32_t resolution, const std::vector<double>& times)
-{
-    BusLoadHistogram load;
-    load.setResolution(resolution);
-    for (const double time : times) {
-        load.add(time);
-    }
-    return load;
 }
 
 TEST(PlotFrame, LiesInItsWidget)

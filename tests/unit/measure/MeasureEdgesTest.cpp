@@ -6,6 +6,7 @@
 #include "measure/SpreadPlot.h"
 #include "measure/StatisticRowText.h"
 #include "measure/StatisticTable.h"
+#include "tests/unit/measure/BusLoadSamples.h"
 
 #include <chrono>
 #include <cmath>
@@ -13,6 +14,8 @@
 #include <limits>
 
 namespace {
+
+using zul::test::loadOf;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double largest = std::numeric_limits<double>::max();
@@ -38,16 +41,6 @@ bool hasText(const PlotItems& items, const char* text)
         }
     }
     return false;
-}
-
-BusLoadHistogram loadOf(std::uint32_t resolution, const std::vector<double>& times)
-{
-    BusLoadHistogram load;
-    load.setResolution(resolution);
-    for (const double time : times) {
-        load.add(time);
-    }
-    return load;
 }
 
 TEST(DialScaleExtremes, ScaleOfAllNumbersHasItsMiddle)
