@@ -423,6 +423,20 @@ TEST_F(NodeServiceWindow, CancelledFileChooserChangesNothing)
     EXPECT_EQ(text("size"), "");
 }
 
+TEST_F(NodeServiceWindow, WindowThatGoesBehindTheFileChooserDoesNoHarm)
+{
+    chooseUpload();
+    bool hasOpened = false;
+    QTimer::singleShot(0, m_dialog, [this, &hasOpened] {
+        hasOpened = QApplication::activeModalWidget() != nullptr;
+        delete m_dialog;
+        m_dialog = nullptr;
+    });
+    click("chooseFile");
+    EXPECT_TRUE(hasOpened);
+    EXPECT_EQ(m_dialog, nullptr);
+}
+
 TEST_F(NodeServiceWindow, WithoutItsObjectItDoesNothing)
 {
     m_project.deleteObject(m_object->id());
