@@ -5,9 +5,13 @@
 #include "core/SettingsStore.h"
 #include "core/Version.h"
 #include "gui/controls/Look.h"
+#include "gui/desktop/DialogAbout.h"
+#include "gui/desktop/DialogHelp.h"
+#include "gui/desktop/DialogPreferences.h"
 #include "gui/desktop/DialogProfile.h"
 #include "gui/desktop/DialogProfileResult.h"
 #include "gui/desktop/DialogProject.h"
+#include "gui/desktop/DialogStatusBar.h"
 #include "gui/desktop/DialogTasks.h"
 #include "gui/desktop/Geometry.h"
 #include "gui/desktop/WindowDesk.h"
@@ -66,8 +70,9 @@ DialogMain::DialogMain(std::vector<ObjectTypeInfo> types, QWidget* parent)
     connectDesk();
     buildMenus();
     buildToolBar();
-    statusBar();
+    setStatusBar(new DialogStatusBar(this));
     buildDocks();
+    buildDialogs();
     m_profileResult = new DialogProfileResult(this);
     m_profilePanel->setResultWindow(m_profileResult);
     m_profilePanel->check();
@@ -133,11 +138,7 @@ void DialogMain::buildMenus()
     m_extrasMenu->addAction(m_actions[MainAction::ProfileEditor]);
     m_helpMenu->addAction(m_actions[MainAction::About]);
     m_helpMenu->addAction(m_actions[MainAction::Help]);
-    // Their windows come with later versions.
-    for (const MainAction id : {MainAction::About, MainAction::Help, MainAction::Preferences,
-                                MainAction::ProfileEditor}) {
-        m_actions[id]->setEnabled(false);
-    }
+    m_actions[MainAction::ProfileEditor]->setEnabled(false); // it comes with a later version
     connect(m_fileMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuFileAbout);
     connect(m_viewMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuViewAbout);
     connect(m_windowMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuWindowAbout);
@@ -166,6 +167,13 @@ void DialogMain::buildToolBar()
     m_toolBar->addAction(m_actions[MainAction::Save]);
     m_toolBar->addAction(m_actions[MainAction::SaveAs]);
     m_viewMenu->addAction(m_toolBar->toggleViewAction());
+}
+
+void DialogMain::buildDialogs()
+{
+    m_about = new DialogAbout(this);
+    m_help = new DialogHelp(this);
+    m_preferences = new DialogPreferences(this);
 }
 
 void DialogMain::buildDocks()

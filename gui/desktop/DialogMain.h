@@ -16,9 +16,13 @@ class QMdiArea;
 class QMenu;
 class QToolBar;
 
+class DialogAbout;
+class DialogHelp;
+
 namespace gui {
 
 class DialogProfile;
+class DialogPreferences;
 class DialogProfileResult;
 class DialogProject;
 class DialogTasks;
@@ -76,6 +80,7 @@ private:
     void buildMenus();
     void buildToolBar();
     void buildDocks();
+    void buildDialogs();
     void applyFirstGeometry();
     void connectDesk();
     void updateTitle();
@@ -122,6 +127,9 @@ private:
     DialogTasks* m_tasksPanel = nullptr;
     DialogProfile* m_profilePanel = nullptr;
     DialogProfileResult* m_profileResult = nullptr;
+    DialogAbout* m_about = nullptr;
+    DialogHelp* m_help = nullptr;
+    DialogPreferences* m_preferences = nullptr;
 };
 
 } // namespace gui

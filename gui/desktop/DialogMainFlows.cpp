@@ -1,6 +1,9 @@
 #include "core/Kernel.h"
 #include "core/SettingsStore.h"
+#include "gui/desktop/DialogAbout.h"
+#include "gui/desktop/DialogHelp.h"
 #include "gui/desktop/DialogMain.h"
+#include "gui/desktop/DialogPreferences.h"
 #include "gui/desktop/DialogProject.h"
 #include "gui/desktop/WindowDesk.h"
 #include "gui/frame/FileDialogs.h"
@@ -19,6 +22,14 @@ const QString fileFilter = QStringLiteral("ZORB File (*.zul);;All Files (*.*)");
 const QString warningTitle = QLatin1String(MessageBoxes::warningTitle);
 const QString defaultName = QStringLiteral("default.zul");
 const QString suffix = QStringLiteral(".zul");
+
+// Comes to the front, also if it was shown already.
+void bringUp(QWidget& window)
+{
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
 
 QString lastSection(const QString& path)
 {
@@ -44,6 +55,15 @@ void DialogMain::dispatch(MainAction id)
         break;
     case MainAction::Quit:
         quit();
+        break;
+    case MainAction::About:
+        bringUp(*m_about);
+        break;
+    case MainAction::Help:
+        bringUp(*m_help);
+        break;
+    case MainAction::Preferences:
+        bringUp(*m_preferences);
         break;
     default:
         break; // the window actions are connected to the MDI area; others do nothing

@@ -82,6 +82,16 @@ QString FileDialogs::saveFile(QWidget* parent, const QString& title, const QStri
     });
 }
 
+QString FileDialogs::directory(QWidget* parent, const QString& title, const QString& path)
+{
+    return choose(title, QString(), path, [&] {
+        auto* dialog = new QFileDialog(parent, title);
+        dialog->setFileMode(QFileDialog::Directory);
+        dialog->setOption(QFileDialog::ShowDirsOnly);
+        return run(dialog, path);
+    });
+}
+
 void FileDialogs::setNextFileName(const QString& path)
 {
     state().nextFileName = path;

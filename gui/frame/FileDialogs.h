@@ -19,6 +19,9 @@ public:
     static QString saveFile(QWidget* parent, const QString& title, const QString& filter,
                             const QString& defaultSuffix, const QString& path = QString());
 
+    /// An existing directory; starts at `path`.
+    static QString directory(QWidget* parent, const QString& title, const QString& path);
+
     /// The next chooser shows nothing and returns this; for tests.
     static void setNextFileName(const QString& path);
     /// Title, filter and first path of the last chooser; for tests.

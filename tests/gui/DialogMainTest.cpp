@@ -4,6 +4,7 @@
 #include "tests/gui/DesktopFixture.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -14,6 +15,9 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QToolBar>
+
+#include <algorithm>
+#include <map>
 
 // The main window as it stands: actions, menus, toolbar, docks, title, keys.
 
@@ -180,18 +184,30 @@ TEST_F(DialogMainTest, HeartbeatRunsByItself)
     EXPECT_TRUE(QTest::qWaitFor([&] { return !title().endsWith(QStringLiteral(" (edited)")); }));
 }
 
-TEST_F(DialogMainTest, ActionsWhoseWindowsAreToComeAreDisabled)
+TEST_F(DialogMainTest, MenusBringUpTheDialogs)
 {
     startAndTick();
-    int disabled = 0;
-    for (const QAction* action : m_window->findChildren<QAction*>()) {
-        const int id = action->data().toInt();
-        if (action->data().isValid() && (id == 7 || id == 8 || id == 13 || id == 14)) {
-            EXPECT_FALSE(action->isEnabled()) << id;
-            ++disabled;
+    const std::map<int, const char*> dialogs{
+        {7, "DialogAbout"}, {8, "DialogHelp"}, {13, "gui::DialogPreferences"}};
+    for (const auto& [id, name] : dialogs) {
+        const auto windows = m_window->findChildren<QDialog*>();
+        const auto found =
+            std::find_if(windows.begin(), windows.end(), [name = name](QDialog* window) {
+                return QLatin1String(window->metaObject()->className()) == QLatin1String(name);
+            });
+        ASSERT_NE(found, windows.end()) << name;
+        EXPECT_FALSE((*found)->isVisible()) << name;
+        for (int turn = 0; turn < 2; ++turn) { // a second time too
+            for (QAction* action : m_window->findChildren<QAction*>()) {
+                if (action->data().isValid() && action->data().toInt() == id) {
+                    action->trigger();
+                }
+            }
+            EXPECT_TRUE((*found)->isVisible()) << name;
+            (*found)->close();
+            EXPECT_FALSE((*found)->isVisible()) << name;
         }
     }
-    EXPECT_EQ(disabled, 4);
 }
 
 TEST_F(DialogMainTest, ActionsWithoutAMenuDoNothing)
