@@ -1,0 +1,1 @@
+#include "edit/Lru825Edit.h"

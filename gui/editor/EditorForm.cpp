@@ -1,0 +1,179 @@
+#include "gui/editor/EditorForm.h"
+
+#include "gui/controls/Look.h"
+#include "gui/controls/WheelGuard.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <limits>
+
+namespace gui {
+
+namespace {
+
+constexpr int textLines = 4; ///< that a field of several lines shows at least
+
+QString rangeText(const EditorField& field)
+{
+    QString text = QLatin1String(field.toolTip);
+    if (!text.isEmpty()) {
+        text += QLatin1Char('\n');
+    }
+    return text + QStringLiteral("%1 to %2%3")
+                      .arg(field.lowest)
+                      .arg(field.highest)
+                      .arg(QLatin1String(field.unit));
+}
+
+int bounded(qint64 value)
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(qBound<qint64>(Limits::min(), value, Limits::max()));
+}
+
+} // namespace
+
+EditorForm::EditorForm(const char* title, const EditorField* fields, std::size_t count,
+                       QWidget* parent)
+    : QWidget(parent)
+{
+    auto* heading = new QLabel(QLatin1String(title), this);
+    heading->setObjectName(QStringLiteral("title"));
+    QFont bold = heading->font();
+    bold.setWeight(boldWeight);
+    heading->setFont(bold);
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    for (std::size_t i = 0; i < count; ++i) {
+        addField(*form, fields[i]);
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(heading);
+    layout->addLayout(form);
+    layout->addStretch(1);
+}
+
+void EditorForm::addField(QFormLayout& form, const EditorField& field)
+{
+    QWidget* control = makeControl(field);
+    auto* label = new QLabel(QLatin1String(field.label), this);
+    label->setToolTip(QLatin1String(field.toolTip));
+    label->setBuddy(field.kind == FieldKind::Position ? control->focusProxy() : control);
+    m_labels.emplace(QLatin1String(field.name), label);
+    form.addRow(label, control);
+}
+
+QWidget* EditorForm::makeControl(const EditorField& field)
+{
+    const QString name = QLatin1String(field.name);
+    QWidget* control = nullptr;
+    switch (field.kind) {
+    case FieldKind::Line:
+        control = new QLineEdit(this);
+        break;
+    case FieldKind::Text: {
+        auto* text = new QPlainTextEdit(this);
+        text->setTabChangesFocus(true);
+        text->setMinimumHeight(text->fontMetrics().lineSpacing() * textLines);
+        control = text;
+        break;
+    }
+    case FieldKind::Number:
+        return makeNumber(field, name);
+    case FieldKind::Choice:
+        control = new QwtComboBox(0, this);
+        WheelGuard::protect(control);
+        break;
+    case FieldKind::Check:
+        control = new QCheckBox(QLatin1String(field.text), this);
+        break;
+    case FieldKind::Position:
+        return makePosition(field);
+    }
+    control->setToolTip(QLatin1String(field.toolTip));
+    keep(control, name);
+    return control;
+}
+
+QSpinBox* EditorForm::makeNumber(const EditorField& field, const QString& name)
+{
+    auto* number = new QSpinBox(this);
+    number->setRange(field.lowest, field.highest);
+    number->setSuffix(QLatin1String(field.unit));
+    number->setToolTip(rangeText(field));
+    WheelGuard::protect(number);
+    keep(number, name);
+    return number;
+}
+
+QWidget* EditorForm::makePosition(const EditorField& field)
+{
+    auto* both = new QWidget(this);
+    auto* row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, 0, 0);
+    const QString name = QLatin1String(field.name);
+    QSpinBox* byte = makeNumber(field, name + QStringLiteral("Byte"));
+    row->addWidget(byte);
+    row->addWidget(makeNumber(field, name + QStringLiteral("Bit")));
+    both->setFocusProxy(byte);
+    return both;
+}
+
+void EditorForm::keep(QWidget* control, const QString& name)
+{
+    control->setObjectName(name);
+    m_controls.emplace(name, control);
+}
+
+void EditorForm::setText(const char* name, const QString& text)
+{
+    if (auto* several = qobject_cast<QPlainTextEdit*>(m_controls.at(QLatin1String(name)))) {
+        several->setPlainText(text);
+    } else {
+        control<QLineEdit>(name).setText(text);
+    }
+}
+
+void EditorForm::setNumber(const char* name, qint64 value)
+{
+    control<QSpinBox>(name).setValue(bounded(value));
+}
+
+void EditorForm::setChoice(const char* name, int code)
+{
+    control<QwtComboBox>(name).setData(code);
+}
+
+void EditorForm::setChecked(const char* name, bool isChecked)
+{
+    control<QCheckBox>(name).setChecked(isChecked);
+}
+
+void EditorForm::setPosition(const char* name, qint64 byte, qint64 bit)
+{
+    const QByteArray field(name);
+    setNumber((field + "Byte").constData(), byte);
+    setNumber((field + "Bit").constData(), bit);
+}
+
+void EditorForm::setChoices(const char* name, const std::vector<std::pair<int, QString>>& choices)
+{
+    auto& box = control<QwtComboBox>(name);
+    const QSignalBlocker silent(box);
+    box.clear();
+    for (const auto& [code, text] : choices) {
+        box.addItem(text, code);
+    }
+    box.setCurrentIndex(-1);
+}
+
+QLabel& EditorForm::label(const char* name) const
+{
+    return *m_labels.at(QLatin1String(name));
+}
+
+} // namespace gui
