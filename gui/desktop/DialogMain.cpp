@@ -15,6 +15,7 @@
 #include "gui/desktop/DialogTasks.h"
 #include "gui/desktop/Geometry.h"
 #include "gui/desktop/WindowDesk.h"
+#include "gui/editor/DialogProfileEditor825_3.h"
 #include "gui/frame/DialogBase.h"
 #include "gui/frame/DialogSelectId.h"
 #include "gui/frame/GuiRequests.h"
@@ -138,7 +139,6 @@ void DialogMain::buildMenus()
     m_extrasMenu->addAction(m_actions[MainAction::ProfileEditor]);
     m_helpMenu->addAction(m_actions[MainAction::About]);
     m_helpMenu->addAction(m_actions[MainAction::Help]);
-    m_actions[MainAction::ProfileEditor]->setEnabled(false); // it comes with a later version
     connect(m_fileMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuFileAbout);
     connect(m_viewMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuViewAbout);
     connect(m_windowMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuWindowAbout);
@@ -174,6 +174,7 @@ void DialogMain::buildDialogs()
     m_about = new DialogAbout(this);
     m_help = new DialogHelp(this);
     m_preferences = new DialogPreferences(this);
+    m_profileEditor = new DialogProfileEditor825_3(this);
 }
 
 void DialogMain::buildDocks()
@@ -437,7 +438,7 @@ void DialogMain::closeEvent(QCloseEvent* event)
     if (m_closing) {
         return;
     }
-    if (!quitCheck()) {
+    if (!m_mayClose && !quitCheck()) {
         event->ignore();
         return;
     }
