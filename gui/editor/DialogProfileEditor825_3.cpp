@@ -24,6 +24,7 @@ using zul::Lru825Selection;
 constexpr const char* editorTitle = "Profile Editor ARINC-825";
 constexpr const char* fileFilter = "Profile File (*.xml);;All Files (*.*)";
 constexpr const char* fileSuffix = "xml";
+constexpr QSize firstSize(940, 620); // most labels of function codes are seen in full
 
 // Data of an item of the tree.
 constexpr int itemRole = Qt::UserRole;
@@ -116,6 +117,7 @@ DialogProfileEditor825_3::DialogProfileEditor825_3(QWidget* parent)
     : DialogEditor({editorTitle, fileFilter, fileSuffix}, parent)
 {
     setWindowIcon(icon("profile-editor"));
+    resize(firstSize);
     loadIcons();
     buildPages();
     startDocument();

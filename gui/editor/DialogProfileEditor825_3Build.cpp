@@ -2,8 +2,11 @@
 #include "gui/editor/Lru825Fields.h"
 #include "profile/ProfileNumbers.h"
 
+#include <QAbstractItemView>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QStyle>
+#include <QTextDocument>
 
 #include <cmath>
 #include <utility>
@@ -62,6 +65,24 @@ QStringList unitNames(const zul::CodeTable& table)
 qint64 shown(std::uint32_t number)
 {
     return zul::asSigned(number);
+}
+
+// Offers all function codes. Their labels are long: the list is as wide as the longest one, and the
+// tool tip tells what the box cuts off.
+void offerFids(EditorForm& page, const char* name, const zul::CodeTable& table)
+{
+    const Choices choices = fidChoices(table);
+    page.setChoices(name, choices);
+    auto& box = page.control<QwtComboBox>(name);
+    int width = 0;
+    for (const auto& choice : choices) {
+        width = qMax(width, box.fontMetrics().horizontalAdvance(choice.second));
+    }
+    box.view()->setMinimumWidth(width + 2 * box.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    const QString toolTip = box.toolTip() + QLatin1Char('\n');
+    QObject::connect(&box, &QComboBox::currentTextChanged, &box, [&box, toolTip](auto& text) {
+        box.setToolTip(Qt::convertFromPlainText(toolTip + text, Qt::WhiteSpaceNormal));
+    });
 }
 
 // A period as its spin box can show it.
@@ -188,7 +209,7 @@ void Editor::buildMessage()
     page.setChoices("messageIdType", choicesOf(schema.identifierTypes));
     page.setChoices("messageIdLength", choicesOf(schema.identifierLengths));
     page.setChoices("messageLcc", choicesOf(schema.channels));
-    page.setChoices("messageFid", fidChoices(schema.fidTable));
+    offerFids(page, "messageFid", schema.fidTable);
     page.setChoices("messageFuncStatus", choicesOf(schema.functionalStates));
     page.connectField("messageName", this, &Editor::slotMessageName);
     page.connectField("messageIdType", this, &Editor::slotMessageIdType);
@@ -309,7 +330,7 @@ void Editor::buildParameter()
                                &Editor::fillParameter);
     page.setNames("parameterPua", unitNames(m_edit.schema().unitTable));
     page.setChoices("parameterDtn", choicesOf(m_edit.schema().dataTypes));
-    page.setChoices("parameterFid", fidChoices(m_edit.schema().fidTable));
+    offerFids(page, "parameterFid", m_edit.schema().fidTable);
     page.connectField("parameterName", this, &Editor::slotParaName);
     page.connectField("parameterPua", this, &Editor::slotParaPua);
     page.connectField("parameterDtn", this, &Editor::slotParaDtn);

@@ -1,5 +1,6 @@
 #include "tests/gui/ProfileEditor825Fixture.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -429,6 +430,18 @@ TEST_F(ProfileEditor825Test, UnitIsAnyText)
     EXPECT_EQ(parameter().pua, QLatin1String("furlong"));
     choose("parameterPua", 1);
     EXPECT_EQ(parameter().pua, find<QComboBox>("parameterPua").itemText(0));
+}
+
+TEST_F(ProfileEditor825Test, LongLabelsOfFunctionCodesCanBeReadInFull)
+{
+    addTo({"Parameter List"});
+    choose("parameterFid", 91);
+    const auto& box = find<QComboBox>("parameterFid");
+    EXPECT_EQ(box.currentText(),
+              QLatin1String("91: <Communications: Passenger Address, Entertainment And Comfort "
+                            "Available>"));
+    EXPECT_TRUE(box.toolTip().contains(box.currentText().toHtmlEscaped()));
+    EXPECT_GE(box.view()->minimumWidth(), box.fontMetrics().horizontalAdvance(box.currentText()));
 }
 
 TEST_F(ProfileEditor825Test, WheelChangesNothingThatHasNoFocus)
