@@ -1,6 +1,7 @@
 #include "gui/editor/NameBox.h"
 
 #include <QListView>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QStringListModel>
 
@@ -9,15 +10,32 @@ namespace gui {
 namespace {
 
 constexpr int leastLetters = 12; ///< that are visible of a name
+constexpr int visibleNames = 20; ///< in the list
+
+/// Drops the list down below the box. As a menu it would be as high as the screen, and Qt would
+/// measure all names first.
+class DropDownStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override
+    {
+        return hint == SH_ComboBox_Popup ? 0
+                                         : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
 
 } // namespace
 
 NameBox::NameBox(QWidget* parent) : QComboBox(parent), m_model(new QStringListModel(this))
 {
-    // There may be thousands: nothing may measure them all.
+    auto* style = new DropDownStyle;
+    style->setParent(this);
+    setStyle(style);
     auto* list = new QListView(this);
-    list->setUniformItemSizes(true);
+    list->setUniformItemSizes(true); // there may be thousands
     setView(list);
+    setMaxVisibleItems(visibleNames);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(leastLetters);
     setModel(m_model);

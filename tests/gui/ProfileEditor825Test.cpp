@@ -398,6 +398,29 @@ TEST_F(ProfileEditor825Test, NameOfAReferenceStaysWhenItsRecordIsRenamedOrGone)
     EXPECT_EQ(transmitted().dataField.parameters.at(0).name, QLatin1String("Speed"));
 }
 
+TEST_F(ProfileEditor825Test, ListOfNamesDropsDownBelowItsBox)
+{
+    select({"Parameter List"});
+    for (int i = 0; i < 30; ++i) {
+        add();
+        type("parameterName", QByteArray("p").append(QByteArray::number(i)).constData());
+    }
+    addTo({"LRU", "Communication", "Transmit"});
+    addTo({"LRU", "Communication", "Transmit", "Message MessageName", "Data Field"});
+    auto& box = find<QComboBox>("referenceName");
+    QTest::mouseClick(&box, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(box.view()->window()));
+    EXPECT_EQ(box.count(), 31); // with the name of the new reference before them
+    const int rowHeight = box.view()->visualRect(box.model()->index(0, 0)).height();
+    EXPECT_LT(box.view()->height(), 22 * rowHeight);
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(box.view(), Qt::Key_Down);
+    }
+    QTest::keyClick(box.view(), Qt::Key_Return);
+    EXPECT_EQ(transmitted().dataField.parameters.at(0).name, QLatin1String("p2"));
+    EXPECT_EQ(tree().currentItem()->text(0), QLatin1String("p2"));
+}
+
 TEST_F(ProfileEditor825Test, NumbersAreTakenAsFarAsTheyAreNumbers)
 {
     addTo({"Parameter List"});
