@@ -194,34 +194,35 @@ QString EditorForm::plainText(const QPlainTextEdit& text)
     return raw.replace(QChar::LineSeparator, QLatin1Char('\n'));
 }
 
-void EditorForm::setNumber(const char* name, qint64 value)
+void EditorForm::setNumber(const char* name, qint64 value) const
 {
     control<QSpinBox>(name).setValue(bounded(value));
 }
 
-void EditorForm::setReal(const char* name, double value)
+void EditorForm::setReal(const char* name, double value) const
 {
     control<RealEdit>(name).setValue(value);
 }
 
-void EditorForm::setChoice(const char* name, int code)
+void EditorForm::setChoice(const char* name, int code) const
 {
     control<QwtComboBox>(name).setData(code);
 }
 
-void EditorForm::setChecked(const char* name, bool isChecked)
+void EditorForm::setChecked(const char* name, bool isChecked) const
 {
     control<QCheckBox>(name).setChecked(isChecked);
 }
 
-void EditorForm::setPosition(const char* name, qint64 byte, qint64 bit)
+void EditorForm::setPosition(const char* name, qint64 byte, qint64 bit) const
 {
     const QByteArray field(name);
     setNumber((field + "Byte").constData(), byte);
     setNumber((field + "Bit").constData(), bit);
 }
 
-void EditorForm::setChoices(const char* name, const std::vector<std::pair<int, QString>>& choices)
+void EditorForm::setChoices(const char* name,
+                            const std::vector<std::pair<int, QString>>& choices) const
 {
     auto& box = control<QwtComboBox>(name);
     const QSignalBlocker silent(box);
