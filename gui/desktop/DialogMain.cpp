@@ -16,6 +16,7 @@
 #include "gui/desktop/DialogTasks.h"
 #include "gui/desktop/Geometry.h"
 #include "gui/desktop/WindowDesk.h"
+#include "gui/editor/DialogProfileEditor825_3.h"
 #include "gui/frame/DialogBase.h"
 #include "gui/frame/DialogSelectId.h"
 #include "gui/frame/GuiRequests.h"
@@ -79,6 +80,7 @@ DialogMain::DialogMain(std::vector<ObjectTypeInfo> types, QWidget* parent)
     updateTitle();
     m_recentFiles.load();
     m_preferences = new DialogPreferences(this);
+    m_profileEditor = new DialogProfileEditor825_3(this);
     m_heartbeat.setSingleShot(true);
     m_heartbeat.start(firstTickMs);
     connect(&m_heartbeat, &QTimer::timeout, this, &DialogMain::slotTimeout);
@@ -137,7 +139,6 @@ void DialogMain::buildMenus()
     m_extrasMenu->addAction(m_actions[MainAction::ProfileEditor]);
     m_helpMenu->addAction(m_actions[MainAction::About]);
     m_helpMenu->addAction(m_actions[MainAction::Help]);
-    m_actions[MainAction::ProfileEditor]->setEnabled(false); // it comes with a later version
     connect(m_fileMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuFileAbout);
     connect(m_viewMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuViewAbout);
     connect(m_windowMenu, &QMenu::aboutToShow, this, &DialogMain::slotMenuWindowAbout);
@@ -429,7 +430,7 @@ void DialogMain::closeEvent(QCloseEvent* event)
     if (m_closing) {
         return;
     }
-    if (!quitCheck()) {
+    if (!m_mayClose && !quitCheck()) {
         event->ignore();
         return;
     }

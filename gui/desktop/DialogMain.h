@@ -23,6 +23,7 @@ namespace gui {
 
 class DialogProfile;
 class DialogPreferences;
+class DialogProfileEditor825_3;
 class DialogProfileResult;
 class DialogProject;
 class DialogTasks;
@@ -112,6 +113,7 @@ private:
     WindowDesk* m_desk;
     QTimer m_heartbeat;
     bool m_closing = false;
+    bool m_mayClose = false; ///< the user was asked and has not cancelled
     bool m_lastEdited = false;
     bool m_restored = false;
     std::function<void()> m_endProcess;
@@ -129,6 +131,7 @@ private:
     DialogAbout* m_about = nullptr;
     DialogHelp* m_help = nullptr;
     DialogPreferences* m_preferences = nullptr;
+    DialogProfileEditor825_3* m_profileEditor = nullptr;
 };
 
 } // namespace gui

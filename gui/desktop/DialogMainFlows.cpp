@@ -6,6 +6,7 @@
 #include "gui/desktop/DialogPreferences.h"
 #include "gui/desktop/DialogProject.h"
 #include "gui/desktop/WindowDesk.h"
+#include "gui/editor/DialogProfileEditor825_3.h"
 #include "gui/frame/FileDialogs.h"
 #include "gui/frame/MessageBoxes.h"
 
@@ -64,6 +65,9 @@ void DialogMain::dispatch(MainAction id)
         break;
     case MainAction::Preferences:
         bringUp(*m_preferences);
+        break;
+    case MainAction::ProfileEditor:
+        bringUp(*m_profileEditor);
         break;
     default:
         break; // the window actions are connected to the MDI area; others do nothing
@@ -150,6 +154,7 @@ void DialogMain::quit()
 {
     if (quitCheck()) {
         m_heartbeat.stop();
+        m_mayClose = true;
         close();
     }
 }
@@ -173,6 +178,9 @@ bool DialogMain::askToSave()
 bool DialogMain::quitCheck()
 {
     commitEntry();
+    if (m_profileEditor->isVisible() && !m_profileEditor->askToSave()) {
+        return false;
+    }
     if (m_project.isEdited() && lastSection(m_project.fileName()) != defaultName && !askToSave()) {
         return false;
     }

@@ -220,8 +220,13 @@ void DialogEditor::slotSelect(QTreeWidgetItem* current, QTreeWidgetItem* /*previ
 
 void DialogEditor::slotAdd()
 {
+    addItem([this] { return addRecord(); });
+}
+
+void DialogEditor::addItem(const std::function<QTreeWidgetItem*()>& add)
+{
     QTreeWidgetItem* added = nullptr;
-    guarded([this, &added] { added = addRecord(); });
+    guarded([&added, &add] { added = add(); });
     if (added == nullptr) {
         return;
     }

@@ -83,6 +83,9 @@ protected:
     /// Removes the selected record and its item. False if nothing was removed.
     virtual bool deleteRecord() = 0;
 
+    /// What `slotAdd` does: calls `add` under the guard, and selects the item that it gives, with
+    /// the lists above it unfolded. Null if nothing was added.
+    void addItem(const std::function<QTreeWidgetItem*()>& add);
     /// The document differs from its file from now on.
     void markChanged();
     /// Set while pages are filled: slots of fields do nothing then.

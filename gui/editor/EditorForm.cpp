@@ -6,7 +6,9 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalBlocker>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include <limits>
@@ -15,7 +17,9 @@ namespace gui {
 
 namespace {
 
-constexpr int textLines = 4; ///< that a field of several lines shows at least
+constexpr int textLines = 4;     ///< that a field of several lines shows at least
+constexpr int leastLetters = 12; ///< that a choice shows at least; long ones widen no window
+constexpr int highestBit = 7;
 
 QString rangeText(const EditorField& field)
 {
@@ -75,18 +79,23 @@ QWidget* EditorForm::makeControl(const EditorField& field)
     case FieldKind::Line:
         control = new QLineEdit(this);
         break;
-    case FieldKind::Text: {
-        auto* text = new QPlainTextEdit(this);
-        text->setTabChangesFocus(true);
-        text->setMinimumHeight(text->fontMetrics().lineSpacing() * textLines);
-        control = text;
+    case FieldKind::Text:
+        control = makeText();
         break;
-    }
     case FieldKind::Number:
         return makeNumber(field, name);
+    case FieldKind::Real:
+        control = new RealEdit(this);
+        break;
     case FieldKind::Choice:
-        control = new QwtComboBox(0, this);
+        control = makeChoice();
+        break;
+    case FieldKind::Name:
+        control = new NameBox(this);
         WheelGuard::protect(control);
+        break;
+    case FieldKind::Suggest:
+        control = makeSuggest();
         break;
     case FieldKind::Check:
         control = new QCheckBox(QLatin1String(field.text), this);
@@ -97,6 +106,33 @@ QWidget* EditorForm::makeControl(const EditorField& field)
     control->setToolTip(QLatin1String(field.toolTip));
     keep(control, name);
     return control;
+}
+
+QWidget* EditorForm::makeText()
+{
+    auto* text = new QPlainTextEdit(this);
+    text->setTabChangesFocus(true);
+    text->setMinimumHeight(text->fontMetrics().lineSpacing() * textLines);
+    return text;
+}
+
+QWidget* EditorForm::makeChoice()
+{
+    auto* choice = new QwtComboBox(0, this);
+    choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    choice->setMinimumContentsLength(leastLetters);
+    WheelGuard::protect(choice);
+    return choice;
+}
+
+QWidget* EditorForm::makeSuggest()
+{
+    auto* box = new QComboBox(this);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setCompleter(nullptr); // it would put its own spelling in the place of what is typed
+    WheelGuard::protect(box);
+    return box;
 }
 
 QSpinBox* EditorForm::makeNumber(const EditorField& field, const QString& name)
@@ -116,9 +152,17 @@ QWidget* EditorForm::makePosition(const EditorField& field)
     auto* row = new QHBoxLayout(both);
     row->setContentsMargins(0, 0, 0, 0);
     const QString name = QLatin1String(field.name);
+    EditorField bitField = field;
+    bitField.lowest = 0;
+    bitField.highest = highestBit;
     QSpinBox* byte = makeNumber(field, name + QStringLiteral("Byte"));
-    row->addWidget(byte);
-    row->addWidget(makeNumber(field, name + QStringLiteral("Bit")));
+    QSpinBox* bit = makeNumber(bitField, name + QStringLiteral("Bit"));
+    for (QSpinBox* number : {byte, bit}) {
+        if (*field.toolTip != '\0') {
+            number->setToolTip(QLatin1String(field.toolTip));
+        }
+        row->addWidget(number);
+    }
     both->setFocusProxy(byte);
     return both;
 }
@@ -133,34 +177,52 @@ void EditorForm::setText(const char* name, const QString& text)
 {
     if (auto* several = qobject_cast<QPlainTextEdit*>(m_controls.at(QLatin1String(name)))) {
         several->setPlainText(text);
+    } else if (auto* names = qobject_cast<NameBox*>(m_controls.at(QLatin1String(name)))) {
+        names->setName(text);
+    } else if (auto* box = qobject_cast<QComboBox*>(m_controls.at(QLatin1String(name)))) {
+        box->setCurrentIndex(box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        box->setEditText(text);
     } else {
         control<QLineEdit>(name).setText(text);
     }
 }
 
-void EditorForm::setNumber(const char* name, qint64 value)
+QString EditorForm::plainText(const QPlainTextEdit& text)
+{
+    QString raw = text.document()->toRawText();
+    raw.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    return raw.replace(QChar::LineSeparator, QLatin1Char('\n'));
+}
+
+void EditorForm::setNumber(const char* name, qint64 value) const
 {
     control<QSpinBox>(name).setValue(bounded(value));
 }
 
-void EditorForm::setChoice(const char* name, int code)
+void EditorForm::setReal(const char* name, double value) const
+{
+    control<RealEdit>(name).setValue(value);
+}
+
+void EditorForm::setChoice(const char* name, int code) const
 {
     control<QwtComboBox>(name).setData(code);
 }
 
-void EditorForm::setChecked(const char* name, bool isChecked)
+void EditorForm::setChecked(const char* name, bool isChecked) const
 {
     control<QCheckBox>(name).setChecked(isChecked);
 }
 
-void EditorForm::setPosition(const char* name, qint64 byte, qint64 bit)
+void EditorForm::setPosition(const char* name, qint64 byte, qint64 bit) const
 {
     const QByteArray field(name);
     setNumber((field + "Byte").constData(), byte);
     setNumber((field + "Bit").constData(), bit);
 }
 
-void EditorForm::setChoices(const char* name, const std::vector<std::pair<int, QString>>& choices)
+void EditorForm::setChoices(const char* name,
+                            const std::vector<std::pair<int, QString>>& choices) const
 {
     auto& box = control<QwtComboBox>(name);
     const QSignalBlocker silent(box);
@@ -169,6 +231,29 @@ void EditorForm::setChoices(const char* name, const std::vector<std::pair<int, Q
         box.addItem(text, code);
     }
     box.setCurrentIndex(-1);
+}
+
+void EditorForm::setNames(const char* name, const QStringList& names)
+{
+    if (auto* box = qobject_cast<NameBox*>(m_controls.at(QLatin1String(name)))) {
+        box->setNames(names);
+    } else {
+        auto& suggest = control<QComboBox>(name);
+        const QSignalBlocker silent(suggest);
+        suggest.clear();
+        suggest.addItems(names);
+        suggest.setCurrentIndex(-1);
+    }
+}
+
+QPushButton& EditorForm::addButton(const char* name, const char* text)
+{
+    auto* button = new QPushButton(QLatin1String(text), this);
+    button->setAutoDefault(false);
+    keep(button, QLatin1String(name));
+    auto* column = static_cast<QVBoxLayout*>(layout());
+    column->insertWidget(column->count() - 1, button, 0, Qt::AlignRight);
+    return *button;
 }
 
 QLabel& EditorForm::label(const char* name) const

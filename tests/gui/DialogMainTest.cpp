@@ -187,8 +187,10 @@ TEST_F(DialogMainTest, HeartbeatRunsByItself)
 TEST_F(DialogMainTest, MenusBringUpTheDialogs)
 {
     startAndTick();
-    const std::map<int, const char*> dialogs{
-        {7, "DialogAbout"}, {8, "DialogHelp"}, {13, "gui::DialogPreferences"}};
+    const std::map<int, const char*> dialogs{{7, "DialogAbout"},
+                                             {8, "DialogHelp"},
+                                             {13, "gui::DialogPreferences"},
+                                             {14, "gui::DialogProfileEditor825_3"}};
     for (const auto& [id, name] : dialogs) {
         const auto windows = m_window->findChildren<QDialog*>();
         const auto found =
