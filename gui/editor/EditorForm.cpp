@@ -60,11 +60,30 @@ EditorForm::EditorForm(const char* title, const EditorField* fields, std::size_t
 void EditorForm::addField(QFormLayout& form, const EditorField& field)
 {
     QWidget* control = makeControl(field);
+    if (field.isBeside) {
+        addBeside(form, control);
+        return;
+    }
     auto* label = new QLabel(QLatin1String(field.label), this);
     label->setToolTip(QLatin1String(field.toolTip));
     label->setBuddy(field.kind == FieldKind::Position ? control->focusProxy() : control);
     m_labels.emplace(QLatin1String(field.name), label);
     form.addRow(label, control);
+}
+
+void EditorForm::addBeside(QFormLayout& form, QWidget* control)
+{
+    const int row = form.rowCount() - 1;
+    QLayoutItem* before = form.itemAt(row, QFormLayout::FieldRole);
+    auto* both = qobject_cast<QHBoxLayout*>(before->layout());
+    if (both == nullptr) {
+        both = new QHBoxLayout;
+        both->addWidget(before->widget());
+        form.removeItem(before);
+        delete before;
+        form.setLayout(row, QFormLayout::FieldRole, both);
+    }
+    both->addWidget(control);
 }
 
 QWidget* EditorForm::makeControl(const EditorField& field)
@@ -102,11 +121,10 @@ QWidget* EditorForm::makeControl(const EditorField& field)
 QSpinBox* EditorForm::makeNumber(const EditorField& field, const QString& name)
 {
     auto* number = new QSpinBox(this);
-    number->setRange(field.lowest, field.highest);
     number->setSuffix(QLatin1String(field.unit));
-    number->setToolTip(rangeText(field));
     WheelGuard::protect(number);
     keep(number, name);
+    setRange(field, *number);
     return number;
 }
 
@@ -127,6 +145,17 @@ void EditorForm::keep(QWidget* control, const QString& name)
 {
     control->setObjectName(name);
     m_controls.emplace(name, control);
+}
+
+void EditorForm::setRange(const EditorField& field, QSpinBox& number)
+{
+    number.setRange(field.lowest, field.highest);
+    number.setToolTip(rangeText(field));
+}
+
+void EditorForm::setRange(const char* name, const EditorField& field)
+{
+    setRange(field, control<QSpinBox>(name));
 }
 
 void EditorForm::setText(const char* name, const QString& text)

@@ -40,6 +40,7 @@ struct EditorField
     int highest = 0;       ///< of Number and Position
     const char* unit = ""; ///< behind the number, such as " ms"
     const char* text = ""; ///< behind the box of a Check
+    bool isBeside = false; ///< right of the control before, under whose label it stands
 };
 
 /// A page of an editor: a title, and below it labelled controls, one below the other. The tool tip
@@ -63,6 +64,9 @@ public:
 
     /// What a choice offers, in this order, as number and text; nothing is selected then.
     void setChoices(const char* name, const std::vector<std::pair<int, QString>>& choices);
+
+    /// Another tool tip and range of a Number, such as `field` tells them; its name is left alone.
+    void setRange(const char* name, const EditorField& field);
 
     /// The control of this name.
     template <typename Control>
@@ -107,9 +111,11 @@ public:
 
 private:
     void addField(QFormLayout& form, const EditorField& field);
+    static void addBeside(QFormLayout& form, QWidget* control);
     QWidget* makeControl(const EditorField& field);
     QSpinBox* makeNumber(const EditorField& field, const QString& name);
     QWidget* makePosition(const EditorField& field);
+    static void setRange(const EditorField& field, QSpinBox& number);
     void keep(QWidget* control, const QString& name);
 
     std::map<QString, QWidget*> m_controls; ///< by name; positions as two
