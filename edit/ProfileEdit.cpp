@@ -295,6 +295,12 @@ void ProfileEdit::setUnit(ProfileParameter& parameter, std::uint32_t code) const
     parameter.unitLabel = parameter.pun; // what XML profiles keep
 }
 
+std::uint32_t ProfileEdit::maxSid() const
+{
+    const bool isText = &m_store.currentFidTable() == &m_store.fidTable825Part2();
+    return isText ? zul::ProfileChecks::maxTextSid : zul::ProfileChecks::maxXmlSid;
+}
+
 void ProfileEdit::setDataType(ProfileParameter& parameter, int choice) const
 {
     if (choice >= 0) {

@@ -78,6 +78,8 @@ public:
     static void setServerFid(ProfileParameter& parameter, std::uint32_t fid);
     /// Code and name of a unit. An unknown code changes nothing.
     void setUnit(ProfileParameter& parameter, std::uint32_t code) const;
+    /// The highest SID that the chosen form of profiles may have.
+    std::uint32_t maxSid() const;
     /// `choice` is one of `zul::dataTypeChoices`; another changes nothing.
     void setDataType(ProfileParameter& parameter, int choice) const;
 
