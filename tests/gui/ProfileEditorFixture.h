@@ -39,6 +39,14 @@ protected:
     ~ProfileEditorTest() override { SettingsStore::instance().reset(); }
 
     static QString name(const char* text) { return QString::fromUtf8(text); }
+    static QStringList texts(std::initializer_list<const char*> list)
+    {
+        QStringList result;
+        for (const char* text : list) {
+            result << name(text);
+        }
+        return result;
+    }
     static void setVersion(int version)
     {
         SettingsStore::instance().setInteger(name("ArincProfileVersion"), version);
@@ -203,6 +211,20 @@ protected:
             }
         }
         return result;
+    }
+    /// A chapter with one new parameter, which is selected.
+    void addParameter()
+    {
+        select({"Parameter"});
+        add();
+        add();
+    }
+    /// The tokens of the only parameter in the saved file.
+    QStringList savedParameter()
+    {
+        const QStringList lines = savedLines("<parameter>");
+        EXPECT_EQ(lines.size(), 1);
+        return lines.value(0).split(QLatin1Char(';'));
     }
     QString title() const { return editor.windowTitle(); }
     bool isChanged() const { return title().endsWith(name(" (edited)")); }
