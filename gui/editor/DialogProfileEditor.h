@@ -75,6 +75,7 @@ protected:
 
 private:
     void buildPages();
+    void widenButtons();
     void connectRecordPages();
     void connectParameterPage();
     template <typename Control>

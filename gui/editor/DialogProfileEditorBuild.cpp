@@ -4,7 +4,9 @@
 #include "gui/editor/ListOnly.h"
 #include "profile/ProfileStore.h"
 
+#include <QBoxLayout>
 #include <QStackedWidget>
+#include <QToolButton>
 
 // The pages and their connections.
 
@@ -24,13 +26,33 @@ void DialogProfileEditor::buildPages()
         m_forms.at(static_cast<std::size_t>(page.item)) = made;
         pages().addWidget(made);
     }
+    // The header is all that there is on its page.
+    auto* headerLayout = qobject_cast<QBoxLayout*>(form(ProfileItem::Header).layout());
+    headerLayout->setStretch(headerLayout->count() - 2, 1);
+    headerLayout->setStretch(headerLayout->count() - 1, 0);
     // Each code that is passed over would lose its chapter.
     ListOnly::protect(form(ProfileItem::Chapter).control<QwtComboBox>(field::chapterFid));
     EditorForm& parameter = form(ProfileItem::Parameter);
     parameter.setChoices(field::lcc, zul::channelChoices(m_store));
     parameter.setChoices(field::rci, zul::rciChoices());
+    widenButtons();
     connectRecordPages();
     connectParameterPage();
+}
+
+// For their longest texts, so that the buttons stay where they are while the selection changes.
+void DialogProfileEditor::widenButtons()
+{
+    const auto widen = [](QToolButton& button, const char* ProfilePage::*text) {
+        int width = 0;
+        for (const ProfilePage& page : profilePages) {
+            button.setText(QLatin1String(page.*text));
+            width = qMax(width, button.sizeHint().width());
+        }
+        button.setMinimumWidth(width);
+    };
+    widen(addButton(), &ProfilePage::addText);
+    widen(deleteButton(), &ProfilePage::deleteText);
 }
 
 EditorForm& DialogProfileEditor::form(ProfileItem page) const
