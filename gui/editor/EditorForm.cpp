@@ -15,6 +15,7 @@ namespace gui {
 
 namespace {
 
+constexpr const char* nearestProperty = "showsNearest"; ///< of a number: the record has another one
 constexpr int textLines = 4; ///< that a field of several lines shows at least
 
 QString rangeText(const EditorField& field)
@@ -125,6 +126,7 @@ QSpinBox* EditorForm::makeNumber(const EditorField& field, const QString& name)
     WheelGuard::protect(number);
     keep(number, name);
     setRange(field, *number);
+    connect(number, &QSpinBox::editingFinished, this, [number] { takeNearest(*number); });
     return number;
 }
 
@@ -169,7 +171,19 @@ void EditorForm::setText(const char* name, const QString& text)
 
 void EditorForm::setNumber(const char* name, qint64 value)
 {
-    control<QSpinBox>(name).setValue(bounded(value));
+    auto& number = control<QSpinBox>(name);
+    number.setValue(bounded(value));
+    number.setProperty(nearestProperty, number.value() != value);
+    number.findChild<QLineEdit*>()->setModified(false);
+}
+
+// What is typed is taken although the number already showed it, if the record has another one.
+void EditorForm::takeNearest(QSpinBox& number)
+{
+    if (number.property(nearestProperty).toBool() && number.findChild<QLineEdit*>()->isModified()) {
+        number.setProperty(nearestProperty, false);
+        emit number.valueChanged(number.value());
+    }
 }
 
 void EditorForm::setChoice(const char* name, int code)

@@ -53,8 +53,8 @@ public:
     /// `fields` has `count` entries.
     EditorForm(const char* title, const EditorField* fields, std::size_t count, QWidget* parent);
 
-    // Show a value. A number outside the range of its control is shown as the nearest one; a choice
-    // without such an entry shows nothing.
+    // Show a value. A number outside the range of its control is shown as the nearest one, until
+    // the user types one, be it the same; a choice without such an entry shows nothing.
     void setText(const char* name, const QString& text);
     void setNumber(const char* name, qint64 value);
     void setChoice(const char* name, int code);
@@ -115,6 +115,7 @@ private:
     QWidget* makeControl(const EditorField& field);
     QSpinBox* makeNumber(const EditorField& field, const QString& name);
     QWidget* makePosition(const EditorField& field);
+    static void takeNearest(QSpinBox& number);
     static void setRange(const EditorField& field, QSpinBox& number);
     void keep(QWidget* control, const QString& name);
 

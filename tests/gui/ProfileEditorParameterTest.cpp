@@ -208,4 +208,26 @@ TEST_F(ProfileEditorParameter, DeletedParameterAndChapter)
     EXPECT_TRUE(savedLines("<parameter>").isEmpty());
 }
 
+TEST_F(ProfileEditorParameter, NearestNumberIsTakenWhenItIsTyped)
+{
+    openText("<unit>\nLow;99\n<parameter>\n"
+             "NOC;4;20000;0;0;0;0.0;0.7;0;UCHAR;A;Mine;0;1;-4;N\n");
+    select({"Parameter", "4 Flight State", "A [Mine]"});
+    control<QSpinBox>("upr")->setFocus();
+    press("upr", Qt::Key_Tab);
+    EXPECT_FALSE(isChanged()); // it was only looked at
+    type("upr", "0");
+    press("upr", Qt::Key_Tab);
+    EXPECT_EQ(savedParameter().value(14), name("0"));
+    control<QSpinBox>("upr")->setFocus();
+    press("upr", Qt::Key_Tab);
+    EXPECT_FALSE(isChanged());
+    select({"User Units", "99 Low"});
+    EXPECT_EQ(number("unitValue"), 100);
+    type("unitValue", "100");
+    press("unitValue", Qt::Key_Tab);
+    EXPECT_EQ(savedLines("<unit>"), texts({"Low;100"}));
+    EXPECT_EQ(selected(), name("100 Low"));
+}
+
 } // namespace
