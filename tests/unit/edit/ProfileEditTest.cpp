@@ -86,7 +86,7 @@ TEST_F(EditOfProfile, ReadProfileIsTheEditorsAlone)
 
 TEST_F(EditOfProfile, ManyParametersOfOneIdentifierLeaveTheIndexAtOnce)
 {
-    constexpr std::size_t count = 50'000;
+    constexpr std::size_t count = 20'000;
     QByteArray text = "<parameter>\n";
     for (std::size_t i = 0; i < count; ++i) {
         text += "NOC;4;100;0;1;0;3.0;0.7;44;FLOAT;Pitch;deg;-90;90;10;T\n";
