@@ -44,7 +44,7 @@ QString groupName(const ProfileStore& store, const ArincProfile& profile, std::u
     const CodeTable& table = store.currentFidTable();
     const auto label = table.find(fid);
     if (label == table.end()) {
-        return QString();
+        return {};
     }
     const auto user = profile.userFids.find(fid);
     const bool isUsers =

@@ -244,6 +244,9 @@ QTreeWidgetItem* DialogProfileEditor::addRecord()
     const auto item = [this](const auto& key, QTreeWidgetItem& parent, ProfileItem kind) {
         return key ? m_items.add(parent, kind, *key) : nullptr;
     };
+    if (tree().currentItem() == nullptr) {
+        return nullptr;
+    }
     QTreeWidgetItem& current = *tree().currentItem();
     switch (m_page) {
     case ProfileItem::UserFids:
@@ -293,13 +296,17 @@ bool DialogProfileEditor::eraseRecord()
         m_areDataTypesOld = true;
         return true;
     case ProfileItem::EnumValue:
-        m_selection.enumerationOf(profile())->values.erase(m_selection.value);
+        if (ProfileEnum* enumeration = m_selection.enumerationOf(profile())) {
+            enumeration->values.erase(m_selection.value);
+        }
         return true;
     case ProfileItem::Chapter:
         profile().fids.erase(m_selection.chapter);
         return true;
     case ProfileItem::Parameter:
-        m_selection.chapterOf(profile())->parameters.erase(m_selection.parameter);
+        if (ProfileFidGroup* chapter = m_selection.chapterOf(profile())) {
+            chapter->parameters.erase(m_selection.parameter);
+        }
         return true;
     default:
         return false;
@@ -308,7 +315,7 @@ bool DialogProfileEditor::eraseRecord()
 
 bool DialogProfileEditor::deleteRecord()
 {
-    if (!eraseRecord()) {
+    if (tree().currentItem() == nullptr || !eraseRecord()) {
         return false;
     }
     delete tree().currentItem(); // a neighbour or the parent is the current one now

@@ -155,7 +155,7 @@ void EditorForm::setRange(const EditorField& field, QSpinBox& number)
     number.setToolTip(rangeText(field));
 }
 
-void EditorForm::setRange(const char* name, const EditorField& field)
+void EditorForm::setRange(const char* name, const EditorField& field) const
 {
     setRange(field, control<QSpinBox>(name));
 }
@@ -169,7 +169,7 @@ void EditorForm::setText(const char* name, const QString& text)
     }
 }
 
-void EditorForm::setNumber(const char* name, qint64 value)
+void EditorForm::setNumber(const char* name, qint64 value) const
 {
     auto& number = control<QSpinBox>(name);
     number.setValue(bounded(value));
@@ -186,24 +186,25 @@ void EditorForm::takeNearest(QSpinBox& number)
     }
 }
 
-void EditorForm::setChoice(const char* name, int code)
+void EditorForm::setChoice(const char* name, int code) const
 {
     control<QwtComboBox>(name).setData(code);
 }
 
-void EditorForm::setChecked(const char* name, bool isChecked)
+void EditorForm::setChecked(const char* name, bool isChecked) const
 {
     control<QCheckBox>(name).setChecked(isChecked);
 }
 
-void EditorForm::setPosition(const char* name, qint64 byte, qint64 bit)
+void EditorForm::setPosition(const char* name, qint64 byte, qint64 bit) const
 {
     const QByteArray field(name);
     setNumber((field + "Byte").constData(), byte);
     setNumber((field + "Bit").constData(), bit);
 }
 
-void EditorForm::setChoices(const char* name, const std::vector<std::pair<int, QString>>& choices)
+void EditorForm::setChoices(const char* name,
+                            const std::vector<std::pair<int, QString>>& choices) const
 {
     auto& box = control<QwtComboBox>(name);
     const QSignalBlocker silent(box);

@@ -56,17 +56,17 @@ public:
     // Show a value. A number outside the range of its control is shown as the nearest one, until
     // the user types one, be it the same; a choice without such an entry shows nothing.
     void setText(const char* name, const QString& text);
-    void setNumber(const char* name, qint64 value);
-    void setChoice(const char* name, int code);
-    void setChecked(const char* name, bool isChecked);
+    void setNumber(const char* name, qint64 value) const;
+    void setChoice(const char* name, int code) const;
+    void setChecked(const char* name, bool isChecked) const;
     /// Name as of the table, without "Byte" or "Bit".
-    void setPosition(const char* name, qint64 byte, qint64 bit);
+    void setPosition(const char* name, qint64 byte, qint64 bit) const;
 
     /// What a choice offers, in this order, as number and text; nothing is selected then.
-    void setChoices(const char* name, const std::vector<std::pair<int, QString>>& choices);
+    void setChoices(const char* name, const std::vector<std::pair<int, QString>>& choices) const;
 
     /// Another tool tip and range of a Number, such as `field` tells them; its name is left alone.
-    void setRange(const char* name, const EditorField& field);
+    void setRange(const char* name, const EditorField& field) const;
 
     /// The control of this name.
     template <typename Control>
