@@ -25,6 +25,19 @@ constexpr std::uint32_t dfidOfNid(std::uint32_t nid)
     return (nid >> 9) & 127;
 }
 
+/// A NID with the server's function code, of which seven bits count, in it; its other bits stay,
+/// but for those that no NID has.
+constexpr std::uint32_t nidOfDfid(std::uint32_t nid, std::uint32_t dfid)
+{
+    return (dfid & 127) << 9 | (nid & 511);
+}
+
+/// NSC and TMC: the channels of services, whose parameters have a server and a SID.
+constexpr bool hasServer(std::uint32_t lcc)
+{
+    return ((lcc - 4) & ~std::uint32_t{2}) == 0;
+}
+
 /// EEC and NOC: the channels whose parameters have a DOC.
 constexpr bool hasDoc(std::uint32_t lcc)
 {

@@ -10,12 +10,7 @@ namespace zul {
 
 namespace {
 
-constexpr std::uint32_t maxProfileId = 65535;
 constexpr std::uint32_t maxFid = fidCount - 1;
-constexpr std::uint32_t maxNid = 65535;
-constexpr std::uint32_t maxPuc = 999;
-constexpr std::uint32_t minUserUnit = 100;
-constexpr std::uint32_t maxRci = 3;
 constexpr std::int32_t unknownEnumId = -1;
 
 } // namespace
@@ -31,6 +26,24 @@ void checkProfileName(const QString& name, int line, ProfileReport& report)
     if (name.size() > maxProfileTextLength) {
         report.warning(line, "Profile name has more than 255 characters");
     }
+}
+
+bool resolveDataType(const ProfileStore& store, const ArincProfile& profile, const QString& name,
+                     ProfileParameter& parameter)
+{
+    const auto type = store.dataTypeNames().find(name);
+    if (type != store.dataTypeNames().end()) {
+        parameter.typeName = type->first; // one text for all parameters
+        parameter.dtc = type->second;
+        parameter.enumId = 0;
+        return true;
+    }
+    parameter.typeName = name;
+    parameter.dtc = static_cast<std::uint32_t>(ArincType::Enum);
+    const auto enumeration = profile.enums.find(name);
+    const bool isFound = enumeration != profile.enums.end();
+    parameter.enumId = isFound ? enumeration->second.enumId : unknownEnumId;
+    return isFound;
 }
 
 void ProfileChecks::checkProfileName(int line)
@@ -164,21 +177,9 @@ void ProfileChecks::checkSid(int line, const ProfileParameter& parameter, std::u
 
 void ProfileChecks::setDataType(int line, const QString& name, ProfileParameter& parameter)
 {
-    const auto type = m_store.dataTypeNames().find(name);
-    if (type != m_store.dataTypeNames().end()) {
-        parameter.typeName = type->first; // one text for all parameters
-        parameter.dtc = type->second;
-        return;
+    if (!resolveDataType(m_store, m_profile, name, parameter)) {
+        m_report.error(line, "Invalid DTN %s", reportText(name).constData());
     }
-    parameter.typeName = name;
-    parameter.dtc = static_cast<std::uint32_t>(ArincType::Enum);
-    const auto enumeration = m_profile.enums.find(name);
-    if (enumeration != m_profile.enums.end()) {
-        parameter.enumId = enumeration->second.enumId;
-        return;
-    }
-    parameter.enumId = unknownEnumId;
-    m_report.error(line, "Invalid DTN %s", reportText(name).constData());
 }
 
 void ProfileChecks::checkPuc(int line, const ProfileParameter& parameter)

@@ -21,6 +21,11 @@ inline constexpr int lineOfRoot = -1;
 /// Warns of the name of a profile or an LRU document that is too long.
 void checkProfileName(const QString& name, int line, ProfileReport& report);
 
+/// Sets `typeName`, and `dtc` and `enumId` by it. False if it is neither a data type nor an
+/// enumeration of the profile.
+bool resolveDataType(const ProfileStore& store, const ArincProfile& profile, const QString& name,
+                     ProfileParameter& parameter);
+
 /// The rules that the readers of ARINC 825 profiles hold every statement against, and the filing of
 /// what they read. Every rule reports and goes on; nothing is rejected. The line is that of the
 /// statement in its file.
@@ -33,6 +38,12 @@ public:
     /// Highest service identifiers that the two forms accept.
     static constexpr std::uint32_t maxTextSid = 127;
     static constexpr std::uint32_t maxXmlSid = 511;
+    // Highest and lowest numbers, both inclusive, that pass.
+    static constexpr std::uint32_t maxProfileId = 65535; ///< of sub-ids, too
+    static constexpr std::uint32_t maxNid = 65535;
+    static constexpr std::uint32_t minUserUnit = 100;
+    static constexpr std::uint32_t maxPuc = 999; ///< of user units, too
+    static constexpr std::uint32_t maxRci = 3;
 
     /// `fidTable` is that of the version of the standard that the form belongs to. All belong to
     /// the caller and outlive the object.

@@ -19,8 +19,10 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -213,17 +215,26 @@ void ProfileStore::replaceProfile(ArincProfile profile)
 
 void ProfileStore::removeFromIndex(const ArincProfile& profile)
 {
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> parameters; // identifier, serial
     for (const auto& group : profile.fids) {
         for (const auto& entry : group.second.parameters) {
-            const ProfileParameter& parameter = entry.second;
-            const auto range = m_parameterIndex.equal_range(parameter.id);
-            const auto found = std::find_if(
-                range.first, range.second, [&parameter](const ParameterIndex::value_type& indexed) {
-                    return indexed.second.serial == parameter.serial;
-                });
-            if (found != range.second) {
-                m_parameterIndex.erase(found);
-            }
+            parameters.emplace_back(entry.second.id, entry.second.serial);
+        }
+    }
+    std::sort(parameters.begin(), parameters.end());
+    // What the index has of an identifier is walked once: a file may have them all on one.
+    std::optional<std::uint32_t> walked;
+    for (const auto& parameter : parameters) {
+        const std::uint32_t id = parameter.first;
+        if (walked == id) {
+            continue;
+        }
+        walked = id;
+        const auto range = m_parameterIndex.equal_range(id);
+        for (auto indexed = range.first; indexed != range.second;) {
+            const bool isOfProfile = std::binary_search(parameters.begin(), parameters.end(),
+                                                        std::make_pair(id, indexed->second.serial));
+            indexed = isOfProfile ? m_parameterIndex.erase(indexed) : std::next(indexed);
         }
     }
 }

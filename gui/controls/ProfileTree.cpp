@@ -1,32 +1,13 @@
 #include "gui/controls/ProfileTree.h"
 
 #include "gui/controls/Look.h"
-#include "profile/ProfileNumbers.h"
-
-#include <QTextDocument>
+#include "gui/controls/ProfileTexts.h"
 
 namespace gui {
 
 namespace {
 
 constexpr int leastHeight = 20; // pixels
-
-QString parameterText(const ProfileParameter& parameter)
-{
-    return parameter.nme + QStringLiteral(" [") + parameter.pun + QLatin1Char(']');
-}
-
-QString parameterToolTip(const ProfileParameter& parameter)
-{
-    const QString text =
-        parameterText(parameter) +
-        QString::asprintf("\nLCC:\t%d\nFID:\t%d\nLCL:\t%d\nPVT:\t%d\nDOC:\t%d\n",
-                          zul::asSigned(parameter.lcc), zul::asSigned(parameter.fid),
-                          zul::asSigned(parameter.lcl), zul::asSigned(parameter.pvt),
-                          zul::asSigned(parameter.doc));
-    // Names come from files; a tag in them is to be seen, not obeyed.
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpacePre) : text;
-}
 
 } // namespace
 
@@ -63,8 +44,7 @@ void ProfileTree::addProfile(const ArincProfile& profile)
     top->setData(0, profileNameRole, profile.name);
     top->setIcon(0, m_profileIcon);
     for (const auto& [key, group] : profile.fids) {
-        auto* item = new QTreeWidgetItem(
-            top, {QString::number(zul::asSigned(key)) + QLatin1Char(' ') + group.name});
+        auto* item = new QTreeWidgetItem(top, {codeText(key, group.name)});
         item->setIcon(0, m_groupIcon);
         if (!group.parameters.empty()) {
             item->setData(0, groupKeyRole, key);

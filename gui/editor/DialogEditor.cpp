@@ -44,6 +44,15 @@ DialogEditor::DialogEditor(const Texts& texts, QWidget* parent)
     resize(firstSize);
 }
 
+DialogEditor::~DialogEditor()
+{
+    // Fields that lose the focus on their way out tell what was typed into them; the derived class
+    // that would hear it has gone.
+    for (QObject* child : findChildren<QObject*>()) {
+        disconnect(child, nullptr, this, nullptr);
+    }
+}
+
 void DialogEditor::buildLayout()
 {
     auto* buttons = new QHBoxLayout;

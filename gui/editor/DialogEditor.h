@@ -26,6 +26,8 @@ public:
     /// File name of a document that has never been saved.
     static constexpr const char* neverSaved = "none";
 
+    ~DialogEditor() override;
+
     /// Asks whether to save what is not saved yet. False if the work is to go on: the user
     /// cancelled, or it could not be saved.
     bool askToSave();

@@ -20,6 +20,7 @@ namespace {
 constexpr int textLines = 4;     ///< that a field of several lines shows at least
 constexpr int leastLetters = 12; ///< that a choice shows at least; long ones widen no window
 constexpr int highestBit = 7;
+constexpr const char* nearestProperty = "showsNearest"; ///< of a number: the record has another one
 
 QString rangeText(const EditorField& field)
 {
@@ -64,11 +65,30 @@ EditorForm::EditorForm(const char* title, const EditorField* fields, std::size_t
 void EditorForm::addField(QFormLayout& form, const EditorField& field)
 {
     QWidget* control = makeControl(field);
+    if (field.isBeside) {
+        addBeside(form, control);
+        return;
+    }
     auto* label = new QLabel(QLatin1String(field.label), this);
     label->setToolTip(QLatin1String(field.toolTip));
     label->setBuddy(field.kind == FieldKind::Position ? control->focusProxy() : control);
     m_labels.emplace(QLatin1String(field.name), label);
     form.addRow(label, control);
+}
+
+void EditorForm::addBeside(QFormLayout& form, QWidget* control)
+{
+    const int row = form.rowCount() - 1;
+    QLayoutItem* before = form.itemAt(row, QFormLayout::FieldRole);
+    auto* both = qobject_cast<QHBoxLayout*>(before->layout());
+    if (both == nullptr) {
+        both = new QHBoxLayout;
+        both->addWidget(before->widget());
+        form.removeItem(before);
+        delete before;
+        form.setLayout(row, QFormLayout::FieldRole, both);
+    }
+    both->addWidget(control);
 }
 
 QWidget* EditorForm::makeControl(const EditorField& field)
@@ -138,11 +158,11 @@ QWidget* EditorForm::makeSuggest()
 QSpinBox* EditorForm::makeNumber(const EditorField& field, const QString& name)
 {
     auto* number = new QSpinBox(this);
-    number->setRange(field.lowest, field.highest);
     number->setSuffix(QLatin1String(field.unit));
-    number->setToolTip(rangeText(field));
     WheelGuard::protect(number);
     keep(number, name);
+    setRange(field, *number);
+    connect(number, &QSpinBox::editingFinished, this, [number] { takeNearest(*number); });
     return number;
 }
 
@@ -173,6 +193,17 @@ void EditorForm::keep(QWidget* control, const QString& name)
     m_controls.emplace(name, control);
 }
 
+void EditorForm::setRange(const EditorField& field, QSpinBox& number)
+{
+    number.setRange(field.lowest, field.highest);
+    number.setToolTip(rangeText(field));
+}
+
+void EditorForm::setRange(const char* name, const EditorField& field) const
+{
+    setRange(field, control<QSpinBox>(name));
+}
+
 void EditorForm::setText(const char* name, const QString& text)
 {
     if (auto* several = qobject_cast<QPlainTextEdit*>(m_controls.at(QLatin1String(name)))) {
@@ -196,12 +227,24 @@ QString EditorForm::plainText(const QPlainTextEdit& text)
 
 void EditorForm::setNumber(const char* name, qint64 value) const
 {
-    control<QSpinBox>(name).setValue(bounded(value));
+    auto& number = control<QSpinBox>(name);
+    number.setValue(bounded(value));
+    number.setProperty(nearestProperty, number.value() != value);
+    number.findChild<QLineEdit*>()->setModified(false);
 }
 
 void EditorForm::setReal(const char* name, double value) const
 {
     control<RealEdit>(name).setValue(value);
+}
+
+// What is typed is taken although the number already showed it, if the record has another one.
+void EditorForm::takeNearest(QSpinBox& number)
+{
+    if (number.property(nearestProperty).toBool() && number.findChild<QLineEdit*>()->isModified()) {
+        number.setProperty(nearestProperty, false);
+        emit number.valueChanged(number.value());
+    }
 }
 
 void EditorForm::setChoice(const char* name, int code) const

@@ -47,6 +47,7 @@ struct EditorField
     int highest = 0;       ///< of Number, and of the byte of a Position
     const char* unit = ""; ///< behind the number, such as " ms"
     const char* text = ""; ///< behind the box of a Check
+    bool isBeside = false; ///< right of the control before, under whose label it stands
 };
 
 /// A page of an editor: a title, and below it labelled controls, one below the other. The tool tip
@@ -60,8 +61,8 @@ public:
     /// `fields` has `count` entries.
     EditorForm(const char* title, const EditorField* fields, std::size_t count, QWidget* parent);
 
-    // Show a value. A number outside the range of its control is shown as the nearest one; a choice
-    // without such an entry shows nothing.
+    // Show a value. A number outside the range of its control is shown as the nearest one, until
+    // the user types one, be it the same; a choice without such an entry shows nothing.
     void setText(const char* name, const QString& text);
     void setNumber(const char* name, qint64 value) const;
     void setReal(const char* name, double value) const;
@@ -77,6 +78,9 @@ public:
 
     /// Adds a button below the fields.
     QPushButton& addButton(const char* name, const char* text);
+
+    /// Another tool tip and range of a Number, such as `field` tells them; its name is left alone.
+    void setRange(const char* name, const EditorField& field) const;
 
     /// The control of this name.
     template <typename Control>
@@ -132,6 +136,7 @@ public:
 
 private:
     void addField(QFormLayout& form, const EditorField& field);
+    static void addBeside(QFormLayout& form, QWidget* control);
     QWidget* makeControl(const EditorField& field);
     QWidget* makeText();
     QWidget* makeChoice();
@@ -140,6 +145,8 @@ private:
     QWidget* makePosition(const EditorField& field);
     /// As typed; Qt's own function makes blanks of those that do not break.
     static QString plainText(const QPlainTextEdit& text);
+    static void takeNearest(QSpinBox& number);
+    static void setRange(const EditorField& field, QSpinBox& number);
     void keep(QWidget* control, const QString& name);
 
     std::map<QString, QWidget*> m_controls; ///< by name; positions as two

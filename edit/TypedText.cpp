@@ -1,0 +1,37 @@
+#include "edit/TypedText.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+namespace zul {
+
+QString oneLine(const QString& text)
+{
+    QString line = text;
+    for (QChar& letter : line) {
+        const auto category = letter.category();
+        if (letter == QLatin1Char('\n') || letter == QLatin1Char('\r') ||
+            category == QChar::Separator_Line || category == QChar::Separator_Paragraph) {
+            letter = QLatin1Char(' ');
+        }
+    }
+    return line;
+}
+
+std::optional<double> typedNumber(const QString& text)
+{
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(number)) {
+        return std::nullopt;
+    }
+    return number;
+}
+
+QString numberText(double number)
+{
+    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
+
+} // namespace zul
