@@ -1,6 +1,7 @@
 #include "profile/ProfileStore.h"
 
 #include "core/DirectoryListing.h"
+#include "core/Settings.h"
 #include "core/SettingsStore.h"
 #include "profile/Arinc825Id.h"
 #include "profile/DataTypes.h"
@@ -29,7 +30,9 @@ const QLatin1String zorbProfileGate("ZORBProfile");
 // Version 0 of the setting is ARINC 825-2 in text form, all others ARINC 825-3 in XML.
 bool isXmlVersion()
 {
-    return SettingsStore::instance().integer(QStringLiteral("ArincProfileVersion"), 0) != 0;
+    return SettingsStore::instance().integer(QLatin1String(zul::setting::arincProfileVersion),
+                                             zul::setting::arinc_version::part2) !=
+           zul::setting::arinc_version::part2;
 }
 
 QString suffixOf(const QString& fileName)
@@ -112,8 +115,10 @@ void ProfileStore::loadAll()
     unloadAll();
     rebuildFidTables();
     const SettingsStore& settings = SettingsStore::instance();
-    const QString arincSuffix = settings.string(QStringLiteral("Arinc825ProfileSuffix"), QString());
-    const QString zorbSuffix = settings.string(QStringLiteral("CanAsProfileSuffix"), QString());
+    const QString arincSuffix =
+        settings.string(QLatin1String(zul::setting::arinc825ProfileSuffix), QString());
+    const QString zorbSuffix =
+        settings.string(QLatin1String(zul::setting::canAsProfileSuffix), QString());
     for (const QString& directory : searchPath()) {
         loadDirectory(directory, arincSuffix, zorbSuffix);
     }

@@ -1,5 +1,6 @@
 #include "project/Project.h"
 
+#include "core/Settings.h"
 #include "core/SettingsStore.h"
 #include "core/XmlFile.h"
 #include "profile/ProfileStore.h"
@@ -33,7 +34,7 @@ Project::Project(std::vector<ObjectTypeInfo> types, const QString& defaultFile)
         m_typesByTag[info.tag] = info.type;
         m_typesById[info.type] = std::move(info);
     }
-    if (SettingsStore::instance().integer(QStringLiteral("AutoLoadProfile"), 0) != 0) {
+    if (SettingsStore::instance().integer(QLatin1String(zul::setting::autoLoadProfile), 0) != 0) {
         m_profiles.loadAll();
     }
     load(defaultFile);

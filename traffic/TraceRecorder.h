@@ -31,8 +31,6 @@ public:
     /// Characters that the text view keeps: a day of a loaded bus, whose batches of hundreds of
     /// lines are one block each, would take all memory before the blocks are too many.
     static constexpr int maxCharacters = 64 * 1024 * 1024;
-    /// Name of the setting that holds the directory of trace files, empty by default.
-    static constexpr const char* pathSetting = "TracePath";
 
     /// What one batch gave.
     struct Update

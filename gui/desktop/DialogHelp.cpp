@@ -20,7 +20,9 @@ DialogHelp::DialogHelp(QWidget* parent) : QDialog(parent)
     setWindowTitle(QStringLiteral("ZUL Help"));
     const QString path = QDir::current().absoluteFilePath(QLatin1String(page));
     // Deliberate: the address takes the title's place, so that it is seen where help would be.
-    setWindowTitle(QLatin1String("file:///") + path);
+    QString address = QLatin1String("file:///") + path;
+    address.replace(QLatin1String("[*]"), QLatin1String("[*][*]")); // else Qt's mark for changes
+    setWindowTitle(address);
     auto* close = new QPushButton(QStringLiteral("Close"), this);
     close->setObjectName(QStringLiteral("close"));
     auto* layout = new QVBoxLayout(this);

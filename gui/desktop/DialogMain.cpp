@@ -2,6 +2,7 @@
 
 #include "core/Kernel.h"
 #include "core/Latin1.h"
+#include "core/Settings.h"
 #include "core/SettingsStore.h"
 #include "core/Version.h"
 #include "gui/controls/Look.h"
@@ -40,16 +41,12 @@ namespace gui {
 
 namespace {
 
-// Values of the setting "RestoreTopLevel".
-constexpr int restoreNever = 0;
-constexpr int restoreOnStart = 1;
-constexpr int restoreAlways = 2;
-
 constexpr QSize defaultSize(1024, 768);
 
 int restoreTopLevel()
 {
-    return SettingsStore::instance().integer(QStringLiteral("RestoreTopLevel"), restoreOnStart);
+    return SettingsStore::instance().integer(QLatin1String(zul::setting::restoreTopLevel),
+                                             zul::setting::restore::onStart);
 }
 
 } // namespace
@@ -71,8 +68,9 @@ DialogMain::DialogMain(std::vector<ObjectTypeInfo> types, QWidget* parent)
     buildMenus();
     buildToolBar();
     setStatusBar(new DialogStatusBar(this));
+    m_about = new DialogAbout(this);
+    m_help = new DialogHelp(this);
     buildDocks();
-    buildDialogs();
     m_profileResult = new DialogProfileResult(this);
     m_profilePanel->setResultWindow(m_profileResult);
     m_profilePanel->check();
@@ -80,6 +78,7 @@ DialogMain::DialogMain(std::vector<ObjectTypeInfo> types, QWidget* parent)
     setWindowIcon(icon("zul"));
     updateTitle();
     m_recentFiles.load();
+    m_preferences = new DialogPreferences(this);
     m_heartbeat.setSingleShot(true);
     m_heartbeat.start(firstTickMs);
     connect(&m_heartbeat, &QTimer::timeout, this, &DialogMain::slotTimeout);
@@ -169,13 +168,6 @@ void DialogMain::buildToolBar()
     m_viewMenu->addAction(m_toolBar->toggleViewAction());
 }
 
-void DialogMain::buildDialogs()
-{
-    m_about = new DialogAbout(this);
-    m_help = new DialogHelp(this);
-    m_preferences = new DialogPreferences(this);
-}
-
 void DialogMain::buildDocks()
 {
     const auto addDock = [this](const char* title, QWidget* panel) {
@@ -212,7 +204,7 @@ void DialogMain::buildDocks()
 
 void DialogMain::applyFirstGeometry()
 {
-    if (restoreTopLevel() == restoreNever) {
+    if (restoreTopLevel() == zul::setting::restore::never) {
         resize(defaultSize);
         return;
     }
@@ -264,7 +256,7 @@ void DialogMain::storeGeometry()
 void DialogMain::openProjectWindows()
 {
     m_desk->openProjectWindows();
-    if (restoreTopLevel() == restoreAlways) {
+    if (restoreTopLevel() == zul::setting::restore::always) {
         applyProjectRectangle();
     }
 }

@@ -80,7 +80,6 @@ private:
     void buildMenus();
     void buildToolBar();
     void buildDocks();
-    void buildDialogs();
     void applyFirstGeometry();
     void connectDesk();
     void updateTitle();

@@ -1,5 +1,6 @@
 #include "gui/desktop/DialogPreferences.h"
 
+#include "core/Settings.h"
 #include "core/SettingsStore.h"
 #include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
@@ -24,14 +25,7 @@ namespace gui {
 
 namespace {
 
-namespace key {
-constexpr const char* onClose = "OnCloseDialog";
-constexpr const char* topLevel = "RestoreTopLevel";
-constexpr const char* autoLoad = "AutoLoadProfile";
-constexpr const char* suffix = "Arinc825ProfileSuffix";
-constexpr const char* version = "ArincProfileVersion";
-constexpr const char* tracePath = "TracePath";
-} // namespace key
+namespace setting = zul::setting;
 
 constexpr const char* firstTracePath = ".";
 constexpr const char* browseTitle = "Trace Path";
@@ -46,14 +40,19 @@ struct Choice
 };
 
 constexpr std::array<Choice, 3> closePolicies{
-    {{"Keep object in project", 0}, {"Remove object from project", 1}, {"Ask User", 2}}};
-constexpr std::array<Choice, 3> restoreTimes{{{"Never", 0}, {"On starting ZUL", 1}, {"Always", 2}}};
-constexpr std::array<Choice, 2> arincVersions{{{"1.0", 0}, {"2.0", 1}}};
+    {{"Keep object in project", setting::close_policy::keepObject},
+     {"Remove object from project", setting::close_policy::removeObject},
+     {"Ask User", setting::close_policy::askUser}}};
+constexpr std::array<Choice, 3> restoreTimes{{{"Never", setting::restore::never},
+                                              {"On starting ZUL", setting::restore::onStart},
+                                              {"Always", setting::restore::always}}};
+constexpr std::array<Choice, 2> arincVersions{
+    {{"1.0", setting::arinc_version::part2}, {"2.0", setting::arinc_version::part3}}};
 constexpr std::array<const char*, 2> suffixes{".pro", ".xml"};
 
-// A version that files of former programs hold; it reads like the one before it.
-constexpr int formerVersion = 2;
-constexpr int newestVersion = 1;
+// Any version but the first means the same, so no other number of it is ever stored.
+constexpr int highestVersion = setting::arinc_version::part3;
+constexpr int versionAbove = highestVersion + 1;
 
 template <std::size_t Size>
 QwtComboBox* makeChoices(const char* name, const std::array<Choice, Size>& choices)
@@ -148,9 +147,12 @@ QWidget* DialogPreferences::buildProfiles()
     m_suffix = new QComboBox;
     m_suffix->setObjectName(QStringLiteral("suffix"));
     m_suffix->setEditable(true);
+    m_suffix->setInsertPolicy(QComboBox::NoInsert);
+    m_suffix->setCompleter(nullptr); // it would turn ".PRO" into ".pro", which is another suffix
     for (const char* suffix : suffixes) {
         m_suffix->addItem(QLatin1String(suffix));
     }
+    m_suffix->setCurrentIndex(-1); // the text is the setting, whether or not it is one of these
     m_version = makeChoices("version", arincVersions);
     form->addRow(QStringLiteral("Load all profiles on startup"), m_autoLoad);
     form->addRow(QStringLiteral("Profile File Suffix"), m_suffix);
@@ -193,15 +195,15 @@ void DialogPreferences::load()
 {
     const QScopedValueRollback<bool> guard(m_loading, true);
     const SettingsStore& settings = SettingsStore::instance();
-    m_onClose->setData(integer(key::onClose));
+    m_onClose->setData(integer(setting::onCloseDialog));
     // Deliberate: without the key this shows "Never", while the main window restores on starting.
-    m_topLevel->setData(integer(key::topLevel));
-    m_autoLoad->setChecked(integer(key::autoLoad) != 0);
-    m_suffix->setEditText(settings.string(QLatin1String(key::suffix), QString()));
-    const int version = integer(key::version);
-    m_version->setData(version == formerVersion ? newestVersion : version);
+    m_topLevel->setData(integer(setting::restoreTopLevel));
+    m_autoLoad->setChecked(integer(setting::autoLoadProfile) != 0);
+    m_suffix->setEditText(
+        settings.string(QLatin1String(setting::arinc825ProfileSuffix), QString()));
+    m_version->setData(integer(setting::arincProfileVersion));
     m_tracePath->setText(
-        settings.string(QLatin1String(key::tracePath), QLatin1String(firstTracePath)));
+        settings.string(QLatin1String(setting::tracePath), QLatin1String(firstTracePath)));
 }
 
 void DialogPreferences::slotChangePage(QListWidgetItem* current, QListWidgetItem* previous)
@@ -218,44 +220,50 @@ void DialogPreferences::slotClose()
 void DialogPreferences::slotOnClose(int policy)
 {
     if (!m_loading) {
-        store(key::onClose, policy);
+        store(setting::onCloseDialog, policy);
     }
 }
 
 void DialogPreferences::slotTopLevel(int when)
 {
     if (!m_loading) {
-        store(key::topLevel, when);
+        store(setting::restoreTopLevel, when);
     }
 }
 
 void DialogPreferences::slotAutoLoadProfile(int state)
 {
     if (!m_loading) {
-        store(key::autoLoad, state == Qt::Checked ? 1 : 0);
+        store(setting::autoLoadProfile, state == Qt::Checked ? 1 : 0);
     }
 }
 
 void DialogPreferences::slotProfileSuffix(const QString& suffix)
 {
     if (!m_loading) {
-        store(key::suffix, suffix);
+        store(setting::arinc825ProfileSuffix, suffix);
     }
 }
 
 void DialogPreferences::slotArincVersion(int version)
 {
     if (!m_loading) {
-        store(key::version, version == formerVersion ? newestVersion : version);
+        store(setting::arincProfileVersion, version == versionAbove ? highestVersion : version);
     }
 }
 
-void DialogPreferences::slotTraceType() {} // traces have one type
+// No control leads here.
+void DialogPreferences::slotTraceType(int format)
+{
+    if (!m_loading) {
+        store(setting::traceDefaultFormat, format);
+    }
+}
 
 void DialogPreferences::slotTracePath(const QString& path)
 {
     if (!m_loading) {
-        store(key::tracePath, path);
+        store(setting::tracePath, path);
     }
 }
 
@@ -267,7 +275,7 @@ void DialogPreferences::slotTraceBrowse()
     if (path.isEmpty() || self.isNull()) {
         return;
     }
-    store(key::tracePath, path);
+    store(setting::tracePath, path);
     load();
 }
 

@@ -30,7 +30,7 @@ private slots:
     void slotAutoLoadProfile(int state);
     void slotProfileSuffix(const QString& suffix);
     void slotArincVersion(int version);
-    void slotTraceType();
+    void slotTraceType(int format);
     void slotTracePath(const QString& path);
     void slotTraceBrowse();
 

@@ -17,12 +17,11 @@ constexpr int firstTurnMs = 200;
 constexpr int turnMs = 100;
 constexpr int versionFontPixels = 12;
 constexpr int versionWidth = 60; // at least
-// No window has this type: the request opens nothing.
-constexpr int statusWindowType = 6;
 
 } // namespace
 
-DialogStatusBar::DialogStatusBar(QWidget* parent) : QStatusBar(parent), m_version(new QwtLabel)
+DialogStatusBar::DialogStatusBar(QWidget* parent)
+    : QStatusBar(parent), m_timer(this), m_version(new QwtLabel)
 {
     const QString text = QStringLiteral("%1 (%2)")
                              .arg(QString::fromStdString(zul::versionText()))
@@ -37,6 +36,7 @@ DialogStatusBar::DialogStatusBar(QWidget* parent) : QStatusBar(parent), m_versio
     m_version->setToolTip(text);
     addPermanentWidget(m_version);
     connect(m_version, &QwtLabel::signalDoubleClicked, this, &DialogStatusBar::slotAbout);
+    m_timer.setObjectName(QStringLiteral("turn"));
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &DialogStatusBar::slotTimeout);
     m_timer.start(firstTurnMs);
@@ -54,7 +54,8 @@ void DialogStatusBar::slotAbout()
 
 void DialogStatusBar::slotStatus()
 {
-    GuiRequests::send(std::make_unique<MessageGuiDialog>(statusWindowType, 0));
+    // The window of an interface: no project makes one, so the request opens nothing.
+    GuiRequests::send(std::make_unique<MessageGuiDialog>(static_cast<int>(ObjectType::Status), 0));
 }
 
 void DialogStatusBar::slotStatistic()

@@ -1,5 +1,6 @@
 #include "gui/frame/DialogBase.h"
 
+#include "core/Settings.h"
 #include "core/SettingsStore.h"
 #include "gui/frame/GuiRequests.h"
 #include "gui/frame/MessageBoxes.h"
@@ -14,10 +15,7 @@ namespace gui {
 
 namespace {
 
-// Values of the setting "OnCloseDialog"; with any other a window just closes.
-constexpr int keepObject = 0;
-constexpr int removeObject = 1;
-constexpr int askUser = 2;
+using namespace zul::setting::close_policy;
 
 constexpr int noObject = -1;
 
@@ -104,7 +102,8 @@ void DialogBase::closeEvent(QCloseEvent* event)
     if (QWidget* field = focusWidget()) {
         field->clearFocus(); // what is being typed counts
     }
-    int policy = SettingsStore::instance().integer(QStringLiteral("OnCloseDialog"), keepObject);
+    int policy =
+        SettingsStore::instance().integer(QLatin1String(zul::setting::onCloseDialog), keepObject);
     if (m_forceClose) {
         policy = keepObject;
     } else if (policy == askUser) {

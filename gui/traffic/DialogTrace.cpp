@@ -2,6 +2,7 @@
 
 #include "core/Clock.h"
 #include "core/Latin1.h"
+#include "core/Settings.h"
 #include "core/SettingsStore.h"
 #include "gui/controls/Colors.h"
 #include "gui/controls/Look.h"
@@ -239,7 +240,7 @@ void DialogTrace::slotOutputInterface(const QString& name)
 void DialogTrace::slotStartStopTrace()
 {
     const QString directory =
-        SettingsStore::instance().string(QLatin1String(TraceRecorder::pathSetting), QString());
+        SettingsStore::instance().string(QLatin1String(zul::setting::tracePath), QString());
     if (!m_recorder.startOrStop(zul::toLatin1(directory), zul::wallClock())) {
         MessageBoxes::ask(this, QMessageBox::Critical, QLatin1String(MessageBoxes::warningTitle),
                           zul::fromLatin1(m_recorder.failureText()), {QMessageBox::Ok});

@@ -1,4 +1,6 @@
 #include "core/SettingsStore.h"
+#include "gui/desktop/DialogAbout.h"
+#include "gui/desktop/DialogStatusBar.h"
 #include "gui/desktop/WindowDesk.h"
 #include "gui/frame/GuiRequests.h"
 #include "gui/frame/MessageBoxes.h"
@@ -359,6 +361,9 @@ TEST_F(DeskWindows, RequestForAnUnknownTypeOrAWindowlessOneIsHarmless)
     gui::GuiRequests::send(std::make_unique<MessageGuiDialog>(99, 0));
     EXPECT_TRUE(project().objects().empty());
     gui::GuiRequests::send(
+        std::make_unique<MessageGuiDialog>(static_cast<int>(ObjectType::Status), 0));
+    EXPECT_TRUE(project().objects().empty()) << "the window of an interface is no object";
+    gui::GuiRequests::send(
         std::make_unique<MessageGuiDialog>(static_cast<int>(ObjectType::Transmit), 0));
     EXPECT_EQ(project().objects().size(), 1U);
     EXPECT_TRUE(m_window->mdiArea().subWindowList().isEmpty());
@@ -372,6 +377,17 @@ TEST_F(DeskWindows, RequestOfAnotherTypeGoesToEveryWindow)
     gui::GuiRequests::send(std::make_unique<MessageGuiAboutDialog>());
     EXPECT_EQ(dialog(*first)->messageTypes, std::vector<int>{42});
     EXPECT_EQ(dialog(*second)->messageTypes, std::vector<int>{42});
+}
+
+TEST_F(DeskWindows, DoubleClickOnTheVersionShowsTheAboutBox)
+{
+    const auto* about = m_window->findChild<DialogAbout*>();
+    ASSERT_NE(about, nullptr);
+    EXPECT_FALSE(about->isVisible());
+    auto* bar = m_window->findChild<gui::DialogStatusBar*>();
+    ASSERT_EQ(bar, m_window->statusBar());
+    QTest::mouseDClick(bar->findChild<QWidget*>(QStringLiteral("version")), Qt::LeftButton);
+    EXPECT_TRUE(about->isVisible());
 }
 
 TEST_F(DeskWindows, RequestsAfterTheMainWindowAreDropped)

@@ -278,6 +278,17 @@ TEST_F(RestoreTopLevel, AlwaysFollowsEveryProject)
     EXPECT_EQ(geometry(), QRect(31, 17, 811, 607));
 }
 
+TEST_F(RestoreTopLevel, ChangeCountsForTheNextProject)
+{
+    startAndTick();
+    setValue(2);
+    moveAwayAndReload();
+    EXPECT_EQ(geometry(), QRect(31, 17, 811, 607));
+    setValue(0);
+    moveAwayAndReload();
+    EXPECT_EQ(geometry(), QRect(5, 6, 900, 700));
+}
+
 TEST_F(RestoreTopLevel, NewProjectLeavesTheWindowWhereItIs)
 {
     setValue(2);

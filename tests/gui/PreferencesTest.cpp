@@ -13,8 +13,11 @@
 #include "tests/support/TestHome.h"
 #include "tests/support/WorkingDirectory.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QFileDialog>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -111,6 +114,43 @@ TEST_F(Preferences, HasItsPagesAndControls)
     }
 }
 
+// Label, control, title of the group round it, number of its page.
+TEST_F(Preferences, EveryControlStandsOnItsPageBehindItsLabel)
+{
+    open();
+    struct Row
+    {
+        const char* label;
+        const char* control;
+        const char* group;
+        int page;
+    };
+    const auto* stack = m_dialog->findChild<QStackedWidget*>();
+    for (const Row& row :
+         {Row{"When closing a dialog :", "onClose", "Application", 0},
+          Row{"Restore Top Level Size/Position :", "topLevel", "Application", 0},
+          Row{"Load all profiles on startup", "autoLoad", "", 1},
+          Row{"Profile File Suffix", "suffix", "", 1}, Row{"ARINC 825 Version", "version", "", 1},
+          Row{"Trace Path :", "tracePath", "Trace", 2},
+          Row{"Trace Path :", "browse", "Trace", 2}}) {
+        const QWidget& page = *stack->widget(row.page);
+        auto* control = page.findChild<QWidget*>(QLatin1String(row.control));
+        ASSERT_NE(control, nullptr) << row.control;
+        const auto* group = qobject_cast<const QGroupBox*>(control->parentWidget());
+        EXPECT_EQ(group != nullptr ? group->title() : QString(), QLatin1String(row.group));
+        stack->parentWidget()->findChild<QListWidget*>()->setCurrentRow(row.page);
+        QCoreApplication::processEvents();
+        bool isLabelled = false;
+        for (const QLabel* label : page.findChildren<QLabel*>()) {
+            const int middle = control->mapTo(m_dialog.get(), control->rect().center()).y();
+            const QRect place(label->mapTo(m_dialog.get(), QPoint(0, 0)), label->size());
+            isLabelled |= label->text() == QLatin1String(row.label) && place.top() <= middle &&
+                          place.bottom() >= middle;
+        }
+        EXPECT_TRUE(isLabelled) << row.control;
+    }
+}
+
 TEST_F(Preferences, ShowsDefaultsWithoutWritingThem)
 {
     open();
@@ -150,6 +190,70 @@ TEST_F(Preferences, UnknownClosePolicyShowsNothing)
     open();
     EXPECT_EQ(find<QComboBox>("onClose")->currentIndex(), -1);
     EXPECT_EQ(integer("OnCloseDialog"), 5);
+}
+
+TEST_F(Preferences, NumbersThatNoBoxHasShowNothingAndStay)
+{
+    for (const int odd : {-1, 2, 7}) {
+        set("RestoreTopLevel", odd == 2 ? 3 : odd);
+        set("ArincProfileVersion", odd);
+        open();
+        EXPECT_EQ(find<QComboBox>("topLevel")->currentIndex(), -1) << odd;
+        EXPECT_EQ(find<QComboBox>("version")->currentIndex(), -1) << odd;
+        EXPECT_EQ(integer("ArincProfileVersion"), odd);
+    }
+    set("OnCloseDialog", "abc");
+    open();
+    EXPECT_EQ(find<QComboBox>("onClose")->currentIndex(), 0) << "a text counts as 0";
+    EXPECT_EQ(string("OnCloseDialog"), QLatin1String("abc"));
+}
+
+TEST_F(Preferences, SuffixIsWhatIsTyped)
+{
+    set("Arinc825ProfileSuffix", ".PRO");
+    open();
+    find<QListWidget>("pages")->setCurrentRow(1);
+    QApplication::setActiveWindow(m_dialog.get());
+    auto* suffix = find<QComboBox>("suffix");
+    suffix->setFocus();
+    QTest::keyClick(suffix, Qt::Key_Return);
+    suffix->clearFocus();
+    EXPECT_EQ(string("Arinc825ProfileSuffix"), QLatin1String(".PRO")) << "looking changes nothing";
+    suffix->setFocus();
+    suffix->lineEdit()->selectAll();
+    QTest::keyClicks(suffix, QStringLiteral(".x"));
+    EXPECT_EQ(string("Arinc825ProfileSuffix"), QLatin1String(".x"));
+    QTest::keyClick(suffix, Qt::Key_Return);
+    EXPECT_EQ(items("suffix"), ".pro=0 .xml=0 ");
+}
+
+TEST_F(Preferences, FirstStepFromAnOwnSuffixIsTheFirstOfTheList)
+{
+    open();
+    choose("suffix", 1);
+    EXPECT_EQ(string("Arinc825ProfileSuffix"), QLatin1String(".pro"));
+    choose("suffix", 1);
+    EXPECT_EQ(string("Arinc825ProfileSuffix"), QLatin1String(".xml"));
+}
+
+TEST_F(Preferences, TraceFormatHasASlotAlone)
+{
+    open();
+    QMetaObject::invokeMethod(m_dialog.get(), "slotTraceType", Q_ARG(int, 3));
+    EXPECT_EQ(integer("TraceDefaultFormat"), 3);
+}
+
+TEST_F(Preferences, SlotsStandInTheirOrder)
+{
+    std::vector<std::string> names;
+    const QMetaObject& meta = gui::DialogPreferences::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        names.push_back(meta.method(i).name().toStdString());
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{
+                         "slotChangePage", "slotClose", "slotOnClose", "slotTopLevel",
+                         "slotAutoLoadProfile", "slotProfileSuffix", "slotArincVersion",
+                         "slotTraceType", "slotTracePath", "slotTraceBrowse"}));
 }
 
 TEST_F(Preferences, EveryChangeIsStoredAtOnce)
@@ -213,6 +317,45 @@ TEST_F(Preferences, TraceDirectoryIsBrowsedFor)
     EXPECT_EQ(string("TracePath"), QLatin1String("/new"));
 }
 
+TEST_F(Preferences, BrowsingReloadsTheFormWithoutWriting)
+{
+    open();
+    set("OnCloseDialog", 2); // by another hand
+    FileDialogs::setNextFileName(QStringLiteral("/new"));
+    QTest::mouseClick(find<QWidget>("browse"), Qt::LeftButton);
+    EXPECT_EQ(find<QComboBox>("onClose")->currentText(), QLatin1String("Ask User"));
+    EXPECT_EQ(string("RestoreTopLevel"), QLatin1String("none"));
+    EXPECT_EQ(string("Arinc825ProfileSuffix"), QLatin1String("none"));
+}
+
+TEST_F(Preferences, ChooserShowsTheDirectoriesOfThePresentPath)
+{
+    const zul::test::TestHome home;
+    QDir(home.file(QString())).mkpath(QStringLiteral("traces/inner"));
+    SettingsStore::instance().setString(QStringLiteral("TracePath"),
+                                        home.file(QStringLiteral("traces")));
+    open();
+    QTimer::singleShot(0, [&home] {
+        auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(chooser, nullptr);
+        EXPECT_EQ(chooser->fileMode(), QFileDialog::Directory);
+        EXPECT_TRUE(chooser->testOption(QFileDialog::ShowDirsOnly));
+        EXPECT_EQ(chooser->directory(), QDir(home.file(QStringLiteral("traces"))));
+        chooser->reject();
+    });
+    QTest::mouseClick(find<QWidget>("browse"), Qt::LeftButton);
+    EXPECT_EQ(string("TracePath"), home.file(QStringLiteral("traces")));
+}
+
+TEST_F(Preferences, WindowMayGoBehindItsChooser)
+{
+    open();
+    QTimer::singleShot(0, [this] { m_dialog.reset(); });
+    QTest::mouseClick(find<QWidget>("browse"), Qt::LeftButton);
+    EXPECT_EQ(m_dialog, nullptr);
+    EXPECT_EQ(string("TracePath"), QLatin1String("none"));
+}
+
 TEST_F(Preferences, OkHides)
 {
     open();
@@ -229,6 +372,33 @@ TEST(StatusBar, ShowsTheVersionAtItsEnd)
     EXPECT_EQ(label->font().pixelSize(), 12);
     EXPECT_EQ(label->minimumWidth(), 60);
     EXPECT_TRUE(label->alignment().testFlag(Qt::AlignRight));
+    bar.resize(500, bar.sizeHint().height());
+    bar.show();
+    EXPECT_GT(label->x(), 250);
+    bar.showMessage(QStringLiteral("A message hides what is not permanent"));
+    EXPECT_TRUE(label->isVisible());
+}
+
+TEST(StatusBar, TimerGoesOnTurnByTurn)
+{
+    const gui::DialogStatusBar bar;
+    const auto* timer = bar.findChild<QTimer*>(QStringLiteral("turn"));
+    ASSERT_NE(timer, nullptr);
+    EXPECT_TRUE(timer->isSingleShot());
+    EXPECT_EQ(timer->interval(), 200);
+    EXPECT_TRUE(QTest::qWaitFor([timer] { return timer->interval() == 100; }));
+    EXPECT_TRUE(timer->isActive());
+}
+
+TEST(StatusBar, SlotsStandInTheirOrder)
+{
+    std::vector<std::string> names;
+    const QMetaObject& meta = gui::DialogStatusBar::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        names.push_back(meta.method(i).name().toStdString());
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{"slotTimeout", "slotAbout", "slotStatus",
+                                               "slotStatistic"}));
 }
 
 TEST(StatusBar, DoubleClickAsksForTheAboutBox)
@@ -274,6 +444,13 @@ TEST(AboutBox, TellsWhatTheProgramIs)
         pictures += label->pixmap(Qt::ReturnByValue).isNull() ? 0 : 1;
     }
     EXPECT_EQ(pictures, 3);
+    int addresses = 0;
+    for (const QLabel* label : about.findChildren<QLabel*>()) {
+        addresses += label->text().contains(QLatin1String("docs/")) ? 1 : 0;
+    }
+    EXPECT_EQ(addresses, 3);
+    EXPECT_EQ(about.findChild<QPushButton*>(QStringLiteral("close"))->text(),
+              QLatin1String("Close"));
     QTest::mouseClick(about.findChild<QPushButton*>(QStringLiteral("close")), Qt::LeftButton);
     EXPECT_FALSE(about.isVisible());
 }
@@ -288,10 +465,22 @@ TEST(HelpWindow, ShowsWhereThePagesWouldBe)
                                       QLatin1String("/../zuldoc/default.htm"));
     EXPECT_EQ(help.findChild<QTextBrowser*>(), nullptr);
     EXPECT_EQ(help.layout()->spacing(), 15);
+    EXPECT_EQ(help.layout()->contentsMargins(), QMargins(15, 15, 15, 15));
+    EXPECT_EQ(help.findChild<QPushButton*>(QStringLiteral("close"))->text(),
+              QLatin1String("Close"));
     QMetaObject::invokeMethod(&help, "slotLinkClicked",
                               Q_ARG(QUrl, QUrl(QStringLiteral("other.htm"))));
     QTest::mouseClick(help.findChild<QPushButton*>(QStringLiteral("close")), Qt::LeftButton);
     EXPECT_FALSE(help.isVisible());
+}
+
+TEST(HelpWindow, AddressKeepsWhatQtTakesForAMark)
+{
+    const zul::test::TestHome home;
+    QDir(home.file(QString())).mkpath(QStringLiteral("a[*]b"));
+    const zul::test::WorkingDirectory directory(home.file(QStringLiteral("a[*]b")));
+    const DialogHelp help;
+    EXPECT_TRUE(help.windowTitle().contains(QLatin1String("a[*][*]b"))) << "which shows as a[*]b";
 }
 
 TEST(HelpWindow, ShowsThePagesThatAreThere)

@@ -131,6 +131,18 @@ TEST_F(Store, LoadsBySuffix)
     EXPECT_EQ(store.profiles().at(latin1("A")).fileName, latin1("a.pro"));
 }
 
+TEST_F(Store, ChangedSuffixCountsForTheNextLoad)
+{
+    home.write(latin1("a.pro"), text("A"));
+    home.write(latin1("b.txt"), text("B", "2;0"));
+    store.loadAll();
+    EXPECT_EQ(store.profiles().count(latin1("A")), 1U);
+    setting("Arinc825ProfileSuffix", ".txt");
+    store.loadAll();
+    EXPECT_EQ(store.profiles().count(latin1("A")), 0U);
+    EXPECT_EQ(store.profiles().count(latin1("B")), 1U);
+}
+
 TEST_F(Store, WithoutSuffixesNothingIsLoaded)
 {
     SettingsStore::instance().reset();

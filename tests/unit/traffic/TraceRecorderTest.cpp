@@ -59,7 +59,6 @@ TEST_F(TraceRecorderTest, Constants)
     EXPECT_EQ(TraceRecorder::maxBlocks, 100000);
     EXPECT_EQ(TraceRecorder::blocksAfterCut, 98000);
     EXPECT_EQ(TraceRecorder::maxCharacters, 67'108'864);
-    EXPECT_STREQ(TraceRecorder::pathSetting, "TracePath");
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Stopped), 0);
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Waiting), 1);
     EXPECT_EQ(static_cast<int>(TraceRecorder::State::Active), 2);
