@@ -94,20 +94,20 @@ void ScheduleThread::run()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     while (!m_stop) {
-        const BusTime dueAt = m_schedule.dueAt();
-        if (dueAt == never) {
+        const BusFrame* head = m_schedule.head();
+        if (head == nullptr) {
             m_changed.wait(lock);
-        } else if (dueAt > now()) {
-            m_changed.wait_until(lock, m_epoch + std::chrono::nanoseconds(dueAt));
+        } else if (m_schedule.dueAt() > now()) {
+            m_changed.wait_until(lock, m_epoch + std::chrono::nanoseconds(m_schedule.dueAt()));
         } else {
-            sendHead(lock);
+            const BusFrame frame = *head;
+            sendHead(frame, lock);
         }
     }
 }
 
-void ScheduleThread::sendHead(std::unique_lock<std::mutex>& lock)
+void ScheduleThread::sendHead(const BusFrame& frame, std::unique_lock<std::mutex>& lock)
 {
-    const BusFrame frame = *m_schedule.head();
     const BusTime lateness = now() - m_schedule.dueAt();
     const std::uint64_t generation = m_generation;
     // The sink may wait for a lock of a thread that waits for this one.

@@ -54,7 +54,7 @@ private:
 
     void startThread();
     void run();
-    void sendHead(std::unique_lock<std::mutex>& lock);
+    void sendHead(const BusFrame& frame, std::unique_lock<std::mutex>& lock);
     BusTime now() const;
 
     Sink m_sink;

@@ -83,10 +83,10 @@ const PendingFrame* BusPort::offer(BusTime start, FrameSource& source)
     if (!m_queue.empty() && ownReadyAt(m_queue.front().readyAt) <= start) {
         compare(&m_queue.front(), FrameSource::Queue);
     }
-    const BusTime dueAt = m_schedule.dueAt();
-    if (ownReadyAt(dueAt) <= start) {
+    const BusFrame* scheduled = m_schedule.head();
+    if (scheduled != nullptr && ownReadyAt(m_schedule.dueAt()) <= start) {
         // Its length is worked out only now: storing a schedule holds up the program.
-        m_scheduled = makePending(*m_schedule.head(), dueAt);
+        m_scheduled = makePending(*scheduled, m_schedule.dueAt());
         compare(&m_scheduled, FrameSource::Schedule);
     }
     for (const auto& scenario : m_scenarios) {
