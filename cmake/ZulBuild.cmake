@@ -59,6 +59,19 @@ function(zul_library name)
     endif()
 endfunction()
 
+# zul_device_module(name logic)
+# The device module lib<name>, of the folder's Module.cpp and the library `logic`, beside the program.
+function(zul_device_module name logic)
+    add_library(${name} MODULE Module.cpp)
+    target_link_libraries(${name} PRIVATE ${logic} zul_warnings)
+    # The program finds its modules by their names, which begin with libCan everywhere.
+    set_target_properties(${name} PROPERTIES
+        PREFIX lib
+        OUTPUT_NAME ${name}
+        INSTALL_RPATH "$ORIGIN")
+    install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_BINDIR})
+endfunction()
+
 # What GoogleTest's matchers make GCC see at -O3 is not there. Linked behind zul_warnings: of two
 # options the later one counts, and a target's own come first.
 add_library(zul_test_warnings INTERFACE)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "modules/virtual/BusTime.h"
+#include "modules/virtual/Vocabulary.h"
 
 #include <chrono>
 

@@ -48,20 +48,20 @@ bool BusPort::queue(const PendingFrame& frame)
     return true;
 }
 
-BusTime BusPort::ownReadyAt(const PendingFrame* head) const
+BusTime BusPort::ownReadyAt(BusTime frameReadyAt) const
 {
-    if (head == nullptr) {
+    if (frameReadyAt == never) {
         return never;
     }
-    const BusTime readyAt = std::max(head->readyAt, m_suspendedUntil);
+    const BusTime readyAt = std::max(frameReadyAt, m_suspendedUntil);
     return m_controller.isBusOff() ? std::max(readyAt, m_controller.recoversAt()) : readyAt;
 }
 
 BusTime BusPort::readyAt() const
 {
-    BusTime earliest = ownReadyAt(m_schedule.head());
+    BusTime earliest = ownReadyAt(m_schedule.dueAt());
     if (!m_queue.empty()) {
-        earliest = std::min(earliest, ownReadyAt(&m_queue.front()));
+        earliest = std::min(earliest, ownReadyAt(m_queue.front().readyAt));
     }
     for (const auto& scenario : m_scenarios) {
         earliest = std::min(earliest, scenario->readyAt());
@@ -80,11 +80,14 @@ const PendingFrame* BusPort::offer(BusTime start, FrameSource& source)
         }
         return wins;
     };
-    if (!m_queue.empty() && ownReadyAt(&m_queue.front()) <= start) {
+    if (!m_queue.empty() && ownReadyAt(m_queue.front().readyAt) <= start) {
         compare(&m_queue.front(), FrameSource::Queue);
     }
-    if (ownReadyAt(m_schedule.head()) <= start) {
-        compare(m_schedule.head(), FrameSource::Schedule);
+    const BusFrame* scheduled = m_schedule.head();
+    if (scheduled != nullptr && ownReadyAt(m_schedule.dueAt()) <= start) {
+        // Its length is worked out only now: storing a schedule holds up the program.
+        m_scheduled = makePending(*scheduled, m_schedule.dueAt());
+        compare(&m_scheduled, FrameSource::Schedule);
     }
     for (const auto& scenario : m_scenarios) {
         if (scenario->readyAt() <= start &&

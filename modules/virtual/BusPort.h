@@ -1,11 +1,11 @@
 #pragma once
 
+#include "modules/support/SendSchedule.h"
 #include "modules/virtual/FaultConfinement.h"
 #include "modules/virtual/GeneratorNode.h"
 #include "modules/virtual/NodeSettings.h"
 #include "modules/virtual/Scenario.h"
 #include "modules/virtual/ScenarioId.h"
-#include "modules/virtual/SendSchedule.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -126,7 +126,7 @@ public:
 
 private:
     void addScenario(std::unique_ptr<Scenario> scenario);
-    BusTime ownReadyAt(const PendingFrame* head) const;
+    BusTime ownReadyAt(BusTime frameReadyAt) const;
     void tellScenarios(const WireFrame& wire, bool ownFrame);
     void countFrame(const WireFrame& wire, bool ownFrame);
     void countError(const WireFrame& wire, bool ownFrame);
@@ -136,6 +136,7 @@ private:
     PortSettings m_settings;
     std::deque<PendingFrame> m_queue;
     SendSchedule m_schedule;
+    PendingFrame m_scheduled; ///< the head of the schedule, once it takes part in arbitration
     std::vector<std::unique_ptr<Scenario>> m_scenarios; ///< the traffic, the node
     Scenario* m_offering = nullptr; ///< whose frame was offered last, and may be on the wire
     FaultConfinement m_controller;

@@ -1,5 +1,6 @@
 #include "modules/virtual/DeviceSettings.h"
 
+#include "modules/support/NumberText.h"
 #include "modules/virtual/BitTiming.h"
 
 #include <array>
@@ -15,44 +16,6 @@ namespace {
 constexpr std::int32_t defaultBitRate = 1'000'000;
 constexpr std::uint32_t defaultDbtp = packDbtp(0, 0, 30, 7, 7);
 constexpr std::uint32_t defaultTdcr = 0x2000;
-
-std::string trimmed(const std::string& text)
-{
-    constexpr const char* blanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-/// The number that the editors read from the same text: base 16 after "0x", 8 after "0", else 10.
-std::optional<std::uint32_t> parseNumber(const std::string& value)
-{
-    const std::string text = trimmed(value);
-    const char* begin = text.c_str();
-    const char* const end = begin + text.size();
-    const bool negative = begin != end && *begin == '-';
-    if (negative) {
-        ++begin;
-    }
-    int base = 10;
-    if (end - begin > 2 && begin[0] == '0' && (begin[1] == 'x' || begin[1] == 'X')) {
-        base = 16;
-        begin += 2;
-    } else if (end - begin > 1 && begin[0] == '0') {
-        base = 8;
-    }
-    std::uint64_t number = 0;
-    const auto [stop, error] = std::from_chars(begin, end, number, base);
-    constexpr std::uint64_t mostNegative = 0x80000000U;
-    constexpr std::uint64_t largest = std::numeric_limits<std::uint32_t>::max();
-    if (error != std::errc() || stop != end || number > (negative ? mostNegative : largest)) {
-        return std::nullopt;
-    }
-    const auto pattern = static_cast<std::uint32_t>(number);
-    return negative ? 0U - pattern : pattern;
-}
 
 std::string hexText(std::uint32_t value)
 {

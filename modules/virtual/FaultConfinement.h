@@ -1,7 +1,7 @@
 #pragma once
 
 #include "message/DeviceStatus.h"
-#include "modules/virtual/BusTime.h"
+#include "modules/virtual/Vocabulary.h"
 
 namespace canvirtual {
 

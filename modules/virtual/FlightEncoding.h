@@ -1,7 +1,7 @@
 #pragma once
 
-#include "modules/virtual/BusFrame.h"
 #include "modules/virtual/FlightTables.h"
+#include "modules/virtual/Vocabulary.h"
 
 #include <cstddef>
 #include <cstdint>

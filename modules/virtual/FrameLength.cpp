@@ -144,4 +144,16 @@ BusTime duration(const FrameBits& bits, const BusRates& rates)
            (bits.data > 0 ? spanOf(bits.data, rates.data) : 0);
 }
 
+std::uint32_t arbitrationPriority(const BusFrame& frame)
+{
+    // | 31..21 base identifier | 20 RTR or SRR | 19 IDE | 18..1 extension | 0 RTR |
+    const std::uint32_t remote = frame.type == FrameType::Remote ? 1U : 0U;
+    if (!isExtended(frame.mode)) {
+        return frame.id << 21U | remote << 20U;
+    }
+    const std::uint32_t base = frame.id >> 18U;
+    const std::uint32_t extension = frame.id & 0x3FFFFU;
+    return base << 21U | 3U << 19U | extension << 1U | remote;
+}
+
 } // namespace canvirtual

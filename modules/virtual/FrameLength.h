@@ -1,6 +1,6 @@
 #pragma once
 
-#include "modules/virtual/BusFrame.h"
+#include "modules/virtual/Vocabulary.h"
 
 namespace canvirtual {
 
@@ -32,6 +32,10 @@ FrameBits frameBits(const BusFrame& frame);
 /// bits, `echoBits` (0 to 6) more by which the flags of the other nodes trail it, and the delimiter
 /// of 8. All of it counts at the nominal bit rate.
 FrameBits errorFrameBits(int sentBits, int echoBits);
+
+/// The arbitration field as a number: of two frames that start together the lower one wins. A
+/// standard frame beats an extended one of the same base identifier, a data frame the remote one.
+std::uint32_t arbitrationPriority(const BusFrame& frame);
 
 /// Time that `bits` take, rounded up to whole nanoseconds.
 BusTime duration(const FrameBits& bits, const BusRates& rates);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "modules/virtual/BusFrame.h"
+#include "modules/virtual/Vocabulary.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "modules/virtual/BusFrame.h"
 #include "modules/virtual/NodeSettings.h"
+#include "modules/virtual/Vocabulary.h"
 
 #include <cstdint>
 

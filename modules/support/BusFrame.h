@@ -1,7 +1,7 @@
 #pragma once
 
 #include "message/MessageCan.h"
-#include "modules/virtual/BusTime.h"
+#include "modules/support/BusTime.h"
 
 #include <array>
 #include <cstddef>
@@ -9,7 +9,7 @@
 #include <memory>
 #include <string>
 
-namespace canvirtual {
+namespace canmodule {
 
 using FrameType = zul::MessageCan::EFrameType;
 using FrameMode = zul::MessageCan::EMsgMode;
@@ -19,7 +19,7 @@ constexpr std::uint32_t maxExtendedId = 0x1FFFFFFF;
 constexpr std::uint32_t maxClassicBytes = 8;
 constexpr std::uint32_t maxFdBytes = 64;
 
-/// One frame as the bus carries it; `message/` has the form that leaves the module.
+/// One frame as a bus carries it; `message/` has the form that leaves a module.
 struct BusFrame
 {
     std::array<std::uint8_t, static_cast<std::size_t>(maxFdBytes)> data{}; ///< 0 from byteCount on
@@ -27,7 +27,7 @@ struct BusFrame
     std::uint32_t byteCount = 0;
     FrameType type = FrameType::Data;
     FrameMode mode = FrameMode::Standard;
-    BusTime time = 0; ///< end of the frame's last bit (of EOF, or of the error delimiter)
+    BusTime time = 0; ///< when it was received; of a scheduled frame its delay
 };
 
 constexpr bool isExtended(FrameMode mode)
@@ -52,10 +52,6 @@ std::uint32_t wireByteCount(FrameMode mode, std::uint32_t byteCount);
 /// The 4-bit data length code of a payload size that `wireByteCount` returned.
 std::uint32_t dataLengthCode(std::uint32_t byteCount);
 
-/// The arbitration field as a number: of two frames that start together the lower one wins. A
-/// standard frame beats an extended one of the same base identifier, a data frame the remote one.
-std::uint32_t arbitrationPriority(const BusFrame& frame);
-
 /// Why `message` cannot be sent, or an empty text if it can: an identifier too large for its mode,
 /// an error frame, an FD remote frame (there are none), or an unknown mode or type.
 std::string frameProblem(const zul::MessageCan& message);
@@ -67,4 +63,4 @@ BusFrame frameFromMessage(const zul::MessageCan& message);
 /// A new message of `frame`.
 std::unique_ptr<zul::MessageCan> messageFromFrame(const BusFrame& frame);
 
-} // namespace canvirtual
+} // namespace canmodule

@@ -1,8 +1,8 @@
-#include "modules/virtual/BusFrame.h"
+#include "modules/support/BusFrame.h"
 
 #include <algorithm>
 
-namespace canvirtual {
+namespace canmodule {
 
 namespace {
 
@@ -25,18 +25,6 @@ std::uint32_t dataLengthCode(std::uint32_t byteCount)
 {
     const auto* const size = std::lower_bound(fdSizes.begin(), fdSizes.end() - 1, byteCount);
     return static_cast<std::uint32_t>(size - fdSizes.begin());
-}
-
-std::uint32_t arbitrationPriority(const BusFrame& frame)
-{
-    // | 31..21 base identifier | 20 RTR or SRR | 19 IDE | 18..1 extension | 0 RTR |
-    const std::uint32_t remote = frame.type == FrameType::Remote ? 1U : 0U;
-    if (!isExtended(frame.mode)) {
-        return frame.id << 21U | remote << 20U;
-    }
-    const std::uint32_t base = frame.id >> 18U;
-    const std::uint32_t extension = frame.id & 0x3FFFFU;
-    return base << 21U | 3U << 19U | extension << 1U | remote;
 }
 
 std::string frameProblem(const zul::MessageCan& message)
@@ -85,4 +73,4 @@ std::unique_ptr<zul::MessageCan> messageFromFrame(const BusFrame& frame)
     return message;
 }
 
-} // namespace canvirtual
+} // namespace canmodule

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "modules/virtual/PendingFrame.h"
+#include "modules/support/BusFrame.h"
 
 #include <cstddef>
 #include <deque>
 
-namespace canvirtual {
+namespace canmodule {
 
 /// The scheduled-send memory: frames with delays, which go out from the start control on.
 ///
@@ -34,22 +34,21 @@ public:
     /// Frames that still have to be sent, whether started or not.
     std::size_t left() const { return m_frames.size() - m_next; }
 
-    /// The next frame, its `readyAt` now being an instant, or null if none will be sent.
-    const PendingFrame* head() const { return m_running && left() > 0 ? &m_head : nullptr; }
+    /// The next frame, or null if none will be sent.
+    const BusFrame* head() const { return m_running && left() > 0 ? &m_frames[m_next] : nullptr; }
+    /// The instant at which the head is to be sent; `never` without a head.
+    BusTime dueAt() const { return head() != nullptr ? m_startedAt + head()->time : never; }
 
     /// Takes the head off.
-    void pop();
+    void pop() { ++m_next; }
 
 private:
-    void loadHead();
-
     std::deque<BusFrame> m_frames; ///< their times are the delays; by these from `start` on
     std::size_t m_capacity;
-    PendingFrame m_head;
     std::size_t m_next = 0;
     BusTime m_startedAt = 0;
     bool m_open = false;
     bool m_running = false;
 };
 
-} // namespace canvirtual
+} // namespace canmodule

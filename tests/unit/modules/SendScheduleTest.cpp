@@ -1,8 +1,8 @@
-#include "modules/virtual/SendSchedule.h"
+#include "modules/support/SendSchedule.h"
 
 #include <gtest/gtest.h>
 
-using namespace canvirtual;
+using namespace canmodule;
 
 namespace {
 
@@ -35,13 +35,14 @@ TEST(SendSchedule, EqualDelaysKeepTheirOrder)
     schedule.add(frameOf(3), 20);
     schedule.start(1'000);
     for (const std::uint32_t id : {2U, 1U, 3U}) {
-        const PendingFrame* head = schedule.head();
+        const BusFrame* head = schedule.head();
         ASSERT_TRUE(head != nullptr);
-        EXPECT_EQ(head->frame.id, id);
-        EXPECT_EQ(head->readyAt, id == 2 ? 1'010 : 1'020);
+        EXPECT_EQ(head->id, id);
+        EXPECT_EQ(schedule.dueAt(), id == 2 ? 1'010 : 1'020);
         schedule.pop();
     }
     EXPECT_TRUE(schedule.head() == nullptr);
+    EXPECT_EQ(schedule.dueAt(), never);
     EXPECT_EQ(schedule.left(), 0U);
 }
 

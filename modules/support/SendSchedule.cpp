@@ -1,8 +1,8 @@
-#include "modules/virtual/SendSchedule.h"
+#include "modules/support/SendSchedule.h"
 
 #include <algorithm>
 
-namespace canvirtual {
+namespace canmodule {
 
 void SendSchedule::begin()
 {
@@ -38,7 +38,6 @@ void SendSchedule::start(BusTime now)
     m_startedAt = now;
     m_next = 0;
     m_running = true;
-    loadHead();
 }
 
 void SendSchedule::clear()
@@ -50,19 +49,4 @@ void SendSchedule::clear()
     m_running = false;
 }
 
-void SendSchedule::pop()
-{
-    ++m_next;
-    loadHead();
-}
-
-void SendSchedule::loadHead()
-{
-    if (left() > 0) {
-        // Its length is worked out only now: storing a schedule holds up the program.
-        const BusFrame& frame = m_frames[m_next];
-        m_head = makePending(frame, m_startedAt + frame.time);
-    }
-}
-
-} // namespace canvirtual
+} // namespace canmodule

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace canvirtual {
+namespace canmodule {
 
 /// An instant or a span of bus time in nanoseconds; instants count from 1970-01-01 00:00 UTC.
 using BusTime = std::int64_t;
@@ -19,4 +19,4 @@ constexpr double toSeconds(BusTime span)
     return static_cast<double>(span) / static_cast<double>(second);
 }
 
-} // namespace canvirtual
+} // namespace canmodule
