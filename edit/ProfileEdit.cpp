@@ -235,6 +235,9 @@ bool ProfileEdit::moveChapter(std::uint32_t from, std::uint32_t to)
     }
     m_profile.fids.erase(to);
     ProfileFidGroup* moved = move(m_profile.fids, from, to);
+    if (moved == nullptr) {
+        return false;
+    }
     moved->fid = to;
     moved->name = zul::groupName(m_store, m_profile, to);
     for (auto& [serial, parameter] : moved->parameters) {

@@ -7,7 +7,7 @@
 
 namespace zul {
 
-XmlSink::XmlSink(const QString& path) : m_file(path), m_writer(&m_file)
+XmlSink::XmlSink(const QString& path) : m_file(path), m_writer(&m_text)
 {
     m_file.setDirectWriteFallback(true); // a writable file in a directory that is not
 }
@@ -56,10 +56,27 @@ void XmlSink::pair(const char* attribute, std::uint32_t first, std::uint32_t sec
                                                           QString::number(asSigned(second)));
 }
 
+void XmlSink::end()
+{
+    constexpr int flushAbove = 1024 * 1024; // characters
+    m_writer.writeEndElement();
+    if (m_text.size() > flushAbove) {
+        flush();
+    }
+}
+
+void XmlSink::flush()
+{
+    const QByteArray bytes = m_text.toUtf8();
+    m_hasFailed = m_hasFailed || m_file.write(bytes) != bytes.size();
+    m_text.clear();
+}
+
 bool XmlSink::save()
 {
     m_writer.writeEndDocument();
-    return !m_writer.hasError() && m_file.commit();
+    flush();
+    return !m_hasFailed && m_file.commit();
 }
 
 } // namespace zul

@@ -24,7 +24,7 @@ public:
     /// Opens an element in the one that is open. Its attributes come before its children.
     void start(const char* element) { m_writer.writeStartElement(QLatin1String(element)); }
     /// Closes the element that was opened last.
-    void end() { m_writer.writeEndElement(); }
+    void end();
 
     /// Characters that XML cannot hold are dropped.
     void text(const char* attribute, const QString& value);
@@ -40,8 +40,12 @@ public:
     bool save();
 
 private:
+    void flush();
+
     QSaveFile m_file;
+    QString m_text; ///< written so far, but not to the file: converting it at once takes less time
     QXmlStreamWriter m_writer;
+    bool m_hasFailed = false; ///< the file did not take all of it
 };
 
 } // namespace zul
