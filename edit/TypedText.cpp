@@ -31,7 +31,12 @@ std::optional<double> typedNumber(const QString& text)
 
 QString numberText(double number)
 {
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+    // From here to there without an exponent.
+    constexpr double smallest = 1e-6;
+    constexpr double largest = 1e15;
+    const double size = std::fabs(number);
+    const bool isPlain = size == 0.0 || (size >= smallest && size < largest);
+    return QString::number(number, isPlain ? 'f' : 'g', QLocale::FloatingPointShortest);
 }
 
 } // namespace zul

@@ -137,7 +137,8 @@ struct Lru825Document
     QString parameterListComment;
     std::map<std::uint32_t, Lru825Parameter> parameters;
 
-    QString fileName;  ///< as given to the reader
-    bool valid = true; ///< false once anything was reported
-    QString result;    ///< report of the reading, as HTML
+    QString fileName;        ///< as given to the reader
+    bool valid = true;       ///< false once anything was reported
+    QString result;          ///< report of the reading, as HTML
+    int foreignElements = 0; ///< that the reading passed over: they would be lost on writing
 };

@@ -60,7 +60,7 @@ public:
             } else if (m_source.isAt(lru825::parameterList)) {
                 parameterList();
             } else {
-                m_source.skip();
+                passOver();
             }
         });
     }
@@ -83,9 +83,15 @@ private:
             if (m_source.isAt(element)) {
                 take();
             } else {
-                m_source.skip();
+                passOver();
             }
         });
+    }
+
+    void passOver()
+    {
+        ++m_document.foreignElements;
+        m_source.skip();
     }
 
     void lru()
@@ -101,7 +107,7 @@ private:
             } else if (m_source.isAt(lru825::communication)) {
                 communication();
             } else {
-                m_source.skip();
+                passOver();
             }
         });
     }
@@ -140,7 +146,7 @@ private:
             } else if (m_source.isAt(lru825::receiveList)) {
                 eachChild(lru825::message, [this] { message(m_document.receiveMessages); });
             } else {
-                m_source.skip();
+                passOver();
             }
         });
     }
@@ -155,7 +161,7 @@ private:
             } else if (m_source.isAt(lru825::dataField)) {
                 dataField(made.dataField);
             } else {
-                m_source.skip();
+                passOver();
             }
         });
         append(messages, made);

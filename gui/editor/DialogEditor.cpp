@@ -143,8 +143,25 @@ void DialogEditor::markChanged()
     }
 }
 
+// What is being typed counts, as if the field had been left.
+void DialogEditor::commitEntry()
+{
+    QWidget* field = focusWidget();
+    if (field != nullptr && m_pages->isAncestorOf(field)) {
+        field->clearFocus();
+        field->setFocus();
+    }
+}
+
+// Where choosers start.
+QString DialogEditor::presentPath() const
+{
+    return m_fileName == QLatin1String(neverSaved) ? QString() : m_fileName;
+}
+
 bool DialogEditor::askToSave()
 {
+    commitEntry();
     if (!m_changed) {
         return true;
     }
@@ -176,8 +193,8 @@ void DialogEditor::slotOpenProfile()
         return;
     }
     const QPointer<DialogEditor> self(this);
-    const QString path =
-        FileDialogs::openFile(this, QLatin1String(openTitle), QLatin1String(m_texts.filter));
+    const QString path = FileDialogs::openFile(this, QLatin1String(openTitle),
+                                               QLatin1String(m_texts.filter), presentPath());
     if (self.isNull() || path.isEmpty()) {
         return;
     }
@@ -192,6 +209,7 @@ void DialogEditor::slotOpenProfile()
 
 void DialogEditor::slotSaveProfile()
 {
+    commitEntry();
     if (m_fileName == QLatin1String(neverSaved)) {
         slotSaveAsProfile();
     } else {
@@ -201,10 +219,11 @@ void DialogEditor::slotSaveProfile()
 
 void DialogEditor::slotSaveAsProfile()
 {
+    commitEntry();
     const QPointer<DialogEditor> self(this);
     const QString path =
         FileDialogs::saveFile(this, QLatin1String(saveTitle), QLatin1String(m_texts.filter),
-                              QLatin1String(m_texts.suffix));
+                              QLatin1String(m_texts.suffix), presentPath());
     if (!self.isNull() && !path.isEmpty()) {
         save(path);
     }
@@ -234,6 +253,7 @@ void DialogEditor::slotAdd()
 
 void DialogEditor::addItem(const std::function<QTreeWidgetItem*()>& add)
 {
+    commitEntry();
     QTreeWidgetItem* added = nullptr;
     guarded([&added, &add] { added = add(); });
     if (added == nullptr) {
@@ -248,6 +268,7 @@ void DialogEditor::addItem(const std::function<QTreeWidgetItem*()>& add)
 
 void DialogEditor::slotDelete()
 {
+    commitEntry();
     bool deleted = false;
     guarded([this, &deleted] { deleted = deleteRecord(); });
     if (deleted) {

@@ -104,6 +104,8 @@ private:
     QToolButton* makeButton(const char* text, const char* iconName, void (DialogEditor::*slot)());
     void buildLayout();
     void refill();
+    void commitEntry();
+    QString presentPath() const;
     void setFile(const QString& fileName);
     void updateTitle();
     void save(const QString& path);

@@ -1,10 +1,13 @@
 #include "gui/editor/DialogProfileEditor825_3.h"
 
+#include "core/Console.h"
+#include "core/Latin1.h"
 #include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
 #include "gui/editor/EditorForm.h"
 
 #include <QStackedWidget>
+#include <QTextDocumentFragment>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -130,7 +133,19 @@ void DialogProfileEditor825_3::clearDocument()
 
 bool DialogProfileEditor825_3::readDocument(const QString& path)
 {
-    return m_edit.read(path);
+    if (!m_edit.read(path)) {
+        return false;
+    }
+    if (!document().valid) {
+        zul::print("%s\n",
+                   zul::toLatin1(QTextDocumentFragment::fromHtml(document().result).toPlainText())
+                       .c_str());
+    }
+    if (document().foreignElements > 0) {
+        zul::print("%s: %d elements are none of an LRU document; saving would lose them\n",
+                   zul::toLatin1(path).c_str(), document().foreignElements);
+    }
+    return true;
 }
 
 bool DialogProfileEditor825_3::writeDocument(const QString& path)

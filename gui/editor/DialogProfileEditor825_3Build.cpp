@@ -85,12 +85,6 @@ void offerFids(EditorForm& page, const char* name, const zul::CodeTable& table)
     });
 }
 
-// A period as its spin box can show it.
-qint64 wholeMs(double value)
-{
-    return std::isfinite(value) ? qRound64(qBound<double>(0, value, lru825::highestPeriodMs)) : 0;
-}
-
 } // namespace
 
 void Editor::buildPages()
@@ -243,8 +237,8 @@ void Editor::fillMessage()
     page.setChecked("messageLcl", record->lcl != 0);
     page.setChecked("messageFsb", record->fsb != 0);
     page.setNumber("messageDoc", shown(record->doc));
-    page.setNumber("messageTxp", wholeMs(record->txp));
-    page.setNumber("messageLatency", wholeMs(record->latencyMax));
+    page.setRounded("messageTxp", record->txp);
+    page.setRounded("messageLatency", record->latencyMax);
     page.setNumber("messagePort", record->defaultPort);
     page.setNumber("messageId", shown(record->fmc11BitId));
     page.setChoice("messageFuncStatus", zul::asSigned(record->impliedFunctionalStatus));

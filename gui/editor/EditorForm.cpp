@@ -11,6 +11,7 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
+#include <cmath>
 #include <limits>
 
 namespace gui {
@@ -236,6 +237,15 @@ void EditorForm::setNumber(const char* name, qint64 value) const
 void EditorForm::setReal(const char* name, double value) const
 {
     control<RealEdit>(name).setValue(value);
+}
+
+void EditorForm::setRounded(const char* name, double value) const
+{
+    auto& number = control<QSpinBox>(name);
+    const bool isFinite = std::isfinite(value);
+    setNumber(name,
+              isFinite ? qRound64(qBound<double>(number.minimum(), value, number.maximum())) : 0);
+    number.setProperty(nearestProperty, !isFinite || number.value() - value != 0.0);
 }
 
 // What is typed is taken although the number already showed it, if the record has another one.

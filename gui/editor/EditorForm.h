@@ -65,6 +65,8 @@ public:
     // the user types one, be it the same; a choice without such an entry shows nothing.
     void setText(const char* name, const QString& text);
     void setNumber(const char* name, qint64 value) const;
+    /// Shows the nearest whole number.
+    void setRounded(const char* name, double value) const;
     void setReal(const char* name, double value) const;
     void setChoice(const char* name, int code) const;
     void setChecked(const char* name, bool isChecked) const;

@@ -13,6 +13,8 @@ inline constexpr int highestNumber = std::numeric_limits<int>::max();
 inline constexpr int lowestNumber = std::numeric_limits<int>::min();
 inline constexpr int highestQuanta = 1024;
 inline constexpr int highestDoc = 16384;
+inline constexpr const char* redundancyChannel = "Redundancy Channel Identifier";
+inline constexpr const char* functionIdentifier = "Function Identifier";
 inline constexpr int highestPeriodMs = 10000;
 inline constexpr int highestPort = 65535;
 inline constexpr int highestShortId = 2047;
@@ -64,7 +66,7 @@ inline constexpr const char* interfaceTitle = "CAN Interface";
 inline constexpr std::array<EditorField, 11> interfaceFields{{
     {FieldKind::Line, "ifcName", "Name"},
     {FieldKind::Choice, "ifcBitrate", "Bit Rate"},
-    {FieldKind::Choice, "ifcRci", "RCI", "Redundancy Channel Identifier"},
+    {FieldKind::Choice, "ifcRci", "RCI", redundancyChannel},
     {FieldKind::Text, "ifcComment", "Comment"},
     {FieldKind::Number, "ifcTimeQuantum", "Time Quantum/Bit", "", 0, highestQuanta, timeQuanta},
     {FieldKind::Number, "ifcResync", "Resync Jump Width", "", 0, highestQuanta, timeQuanta},
@@ -81,7 +83,7 @@ inline constexpr std::array<EditorField, 14> messageFields{{
     {FieldKind::Choice, "messageIdType", "ID Type"},
     {FieldKind::Choice, "messageIdLength", "ID Length"},
     {FieldKind::Choice, "messageLcc", "LCC", "Logical Communication Channel"},
-    {FieldKind::Choice, "messageFid", "FID", "Function Identifier"},
+    {FieldKind::Choice, "messageFid", "FID", functionIdentifier},
     {FieldKind::Check, "messagePvt", "Private Bit"},
     {FieldKind::Check, "messageLcl", "LCL Bit", "Local Bus Only"},
     {FieldKind::Check, "messageFsb", "FSB Bit", "Functional Status Bit"},
@@ -104,7 +106,7 @@ inline constexpr std::array<EditorField, 4> dataFieldFields{{
 inline constexpr const char* assignmentTitle = "Interface Assignment";
 inline constexpr std::array<EditorField, 2> assignmentFields{{
     {FieldKind::Name, "assignmentName", "Interface"},
-    {FieldKind::Choice, "assignmentRci", "RCI", "Redundancy Channel Identifier"},
+    {FieldKind::Choice, "assignmentRci", "RCI", redundancyChannel},
 }};
 
 inline constexpr const char* referenceTitle = "Parameter Assignment";
@@ -127,7 +129,7 @@ inline constexpr std::array<EditorField, 10> parameterFields{{
     {FieldKind::Real, "parameterOffset", "Offset"},
     {FieldKind::Text, "parameterNotes", "Notes"},
     {FieldKind::Text, "parameterComment", "Comment"},
-    {FieldKind::Choice, "parameterFid", "FID", "Function Identifier"},
+    {FieldKind::Choice, "parameterFid", "FID", functionIdentifier},
 }};
 
 inline constexpr const char* enumTitle = "Enum";

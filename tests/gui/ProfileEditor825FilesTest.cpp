@@ -1,5 +1,5 @@
 #include "profile/Lru825Writer.h"
-#include "tests/gui/ProfileEditor825Fixture.h"
+#include "tests/gui/ProfileEditor825Filled.h"
 #include "tests/support/ConsoleCapture.h"
 #include "tests/unit/profile/HostileFiles.h"
 
@@ -16,7 +16,7 @@ using gui::FileDialogs;
 using gui::MessageBoxes;
 using Buttons = std::vector<QMessageBox::StandardButton>;
 
-class ProfileEditor825Files : public zul::test::ProfileEditor825Test
+class ProfileEditor825Files : public zul::test::ProfileEditor825Filled
 {
 protected:
     void change() const
@@ -25,10 +25,6 @@ protected:
         type("headerName", "Changed");
         ASSERT_TRUE(m_editor->isChanged());
     }
-    void fillHeaderAndLru() const;
-    void fillInterface() const;
-    void fillParameter() const;
-    void fillMessage(const char* list) const;
     void expectMessage(const Lru825Message& message, double periodMs, double latencyMs) const;
     void expectAll(double periodMs, double latencyMs) const;
 };
@@ -188,92 +184,6 @@ TEST_F(ProfileEditor825Files, FileThatCannotBeReadLeavesTheDocument)
     EXPECT_EQ(parameter().name, QLatin1String("Edited"));
 }
 
-void ProfileEditor825Files::fillHeaderAndLru() const
-{
-    select({"Profile Header"});
-    type("headerId", "id \"1\"");
-    type("headerName", "Pump & <Valve>");
-    type("headerMajor", "1");
-    type("headerMinor", "2");
-    type("headerVersion", "20261122");
-    type("headerComment", "first");
-    QTest::keyClick(&find<QWidget>("headerComment"), Qt::Key_Return);
-    QTest::keyClicks(&find<QWidget>("headerComment"), QStringLiteral("second"));
-    select({"LRU"});
-    type("lruName", "Pump;1");
-    type("lruNodeId", "N-7");
-    type("lruNodeAddress", "0x10");
-    type("lruComment", "about the unit");
-}
-
-void ProfileEditor825Files::fillInterface() const
-{
-    addTo({"LRU", "CAN Interfaces"});
-    type("ifcName", "can1");
-    choose("ifcBitrate", -1);
-    choose("ifcRci", 1);
-    type("ifcComment", "left");
-    type("ifcTimeQuantum", "16");
-    type("ifcResync", "2");
-    type("ifcSyncSeg", "1");
-    type("ifcPropSeg", "7");
-    type("ifcPhaseSeg1", "5");
-    type("ifcPhaseSeg2", "3");
-    choose("ifcSamplingPoint", 1);
-}
-
-void ProfileEditor825Files::fillParameter() const
-{
-    addTo({"Parameter List"});
-    type("parameterName", "Speed");
-    type("parameterPua", "m/s");
-    choose("parameterDtn", 9);
-    type("parameterMin", "-2.5");
-    type("parameterMax", "1e6");
-    type("parameterResolution", "0.125");
-    type("parameterOffset", "-4");
-    type("parameterNotes", "note");
-    type("parameterComment", "comment");
-    choose("parameterFid", 20);
-    click("addEnum");
-    type("enumKey", "off");
-    type("enumValue", "-1");
-}
-
-void ProfileEditor825Files::fillMessage(const char* name) const
-{
-    addTo({"LRU", "Communication", name});
-    type("messageName", "Status");
-    choose("messageIdType", 3);
-    choose("messageIdLength", 1);
-    choose("messageLcc", 6);
-    choose("messageFid", 5);
-    check("messagePvt");
-    check("messageLcl");
-    check("messageFsb");
-    type("messageDoc", "16384");
-    type("messageTxp", "12");
-    type("messageLatency", "10000");
-    type("messagePort", "7");
-    type("messageId", "2047");
-    choose("messageFuncStatus", 3);
-    addTo({"LRU", "Communication", name, "Message Status", "Interfaces"});
-    choose("assignmentName", 1);
-    choose("assignmentRci", 3);
-    select({"LRU", "Communication", name, "Message Status", "Data Field"});
-    type("dataFieldName", "field");
-    type("dataFieldPayload", "raw");
-    type("dataFieldDlc", "8");
-    check("dataFieldIntegrity");
-    add();
-    choose("referenceName", 1);
-    int number = 0;
-    for (const char* control : {"sppByte", "sppBit", "eppByte", "eppBit", "pvsSppByte", "pvsSppBit",
-                                "pvsEppByte", "pvsEppBit"}) {
-        type(control, QByteArray::number(++number % 8).constData());
-    }
-}
-
 void ProfileEditor825Files::expectMessage(const Lru825Message& message, double periodMs,
                                           double latencyMs) const
 {
@@ -301,11 +211,11 @@ void ProfileEditor825Files::expectMessage(const Lru825Message& message, double p
     ASSERT_EQ(message.dataField.parameters.size(), 1U);
     const Lru825Reference& reference = message.dataField.parameters.at(0);
     EXPECT_EQ(reference.name, QLatin1String("Speed"));
-    std::uint32_t number = 0;
+    int number = 0;
     for (const Lru825Position& position :
          {reference.spp, reference.epp, reference.pvsSpp, reference.pvsEpp}) {
-        EXPECT_EQ(position.byte, ++number % 8);
-        EXPECT_EQ(position.bit, ++number % 8);
+        EXPECT_EQ(position.byte, static_cast<std::uint32_t>(zul::test::positionDigit(++number)));
+        EXPECT_EQ(position.bit, static_cast<std::uint32_t>(zul::test::positionDigit(++number)));
     }
 }
 
