@@ -21,6 +21,11 @@ constexpr int parameterCount = 10'000; // in one chapter
 
 enum FixedItem { Header, ProfileInfo, UserFids, UserUnits, Enumerations, Chapters };
 
+QTreeWidgetItem* childOf(QTreeWidgetItem* item, int row)
+{
+    return item != nullptr ? item->child(row) : nullptr;
+}
+
 /// The window with the profile, its chapter unfolded.
 class Window
 {
@@ -29,8 +34,8 @@ public:
     {
         m_editor.show();
         open();
-        fixed(Chapters).setExpanded(true);
-        chapter().setExpanded(true);
+        tree().expandItem(fixed(Chapters));
+        tree().expandItem(chapter());
         settle();
     }
 
@@ -51,10 +56,11 @@ public:
         return *m_editor.findChild<Control*>(QLatin1String(name));
     }
     QTreeWidget& tree() const { return control<QTreeWidget>("tree"); }
-    QTreeWidgetItem& fixed(FixedItem item) const { return *tree().topLevelItem(item); }
-    QTreeWidgetItem& chapter() const { return *fixed(Chapters).child(0); }
-    QTreeWidgetItem& parameter() const { return *chapter().child(parameterCount / 2); }
-    void select(QTreeWidgetItem& item) { tree().setCurrentItem(&item); }
+    QTreeWidgetItem* fixed(FixedItem item) const { return tree().topLevelItem(item); }
+    QTreeWidgetItem* child(FixedItem item) const { return childOf(fixed(item), 0); }
+    QTreeWidgetItem* chapter() const { return child(Chapters); }
+    QTreeWidgetItem* parameter() const { return childOf(chapter(), parameterCount / 2); }
+    void select(QTreeWidgetItem* item) { tree().setCurrentItem(item); }
     /// Lays out and paints what has changed.
     static void settle() { QApplication::processEvents(); }
 
@@ -117,7 +123,7 @@ void selectEnumeration(benchmark::State& state)
     Window& at = window();
     at.select(at.fixed(Enumerations));
     at.click("parameter-add");
-    QTreeWidgetItem& enumeration = *at.fixed(Enumerations).child(0);
+    QTreeWidgetItem* enumeration = at.child(Enumerations);
     measure(
         state, [&] { at.select(at.fixed(Header)); }, [&] { at.select(enumeration); });
     at.select(enumeration);
@@ -125,14 +131,14 @@ void selectEnumeration(benchmark::State& state)
 }
 
 // Adds below the item, and deletes what was added; either is counted.
-void addBelow(benchmark::State& state, QTreeWidgetItem& item)
+void addBelow(benchmark::State& state, QTreeWidgetItem* item)
 {
     Window& at = window();
     measure(
         state, [&] { at.select(item); }, [&] { at.click("parameter-add"); });
     const auto added = static_cast<int>(state.iterations());
     for (int i = 0; i < added; ++i) {
-        at.select(*item.child(item.childCount() - 1));
+        at.select(childOf(item, item != nullptr ? item->childCount() - 1 : 0));
         at.click("parameter-delete");
     }
 }
@@ -183,7 +189,7 @@ void renameEnumeration(benchmark::State& state)
 void renameUnit(benchmark::State& state)
 {
     Window& at = window();
-    at.select(*at.fixed(UserUnits).child(0));
+    at.select(at.child(UserUnits));
     auto& field = at.control<QSpinBox>("unitValue"); // all parameters follow
     measure(
         state, [] {}, [&] { field.setValue(field.value() == 100 ? 101 : 100); });
@@ -192,7 +198,7 @@ void renameUnit(benchmark::State& state)
 void renameFid(benchmark::State& state)
 {
     Window& at = window();
-    at.select(*at.fixed(UserFids).child(0)); // that of the chapter
+    at.select(at.child(UserFids)); // that of the chapter
     auto& field = at.control<QLineEdit>("fidName");
     int number = 0;
     measure(
