@@ -59,6 +59,9 @@ function(zul_library name)
     endif()
 endfunction()
 
+# All device modules.
+add_custom_target(modules)
+
 # zul_device_module(name logic)
 # The device module lib<name>, of the folder's Module.cpp and the library `logic`, beside the program.
 function(zul_device_module name logic)
@@ -69,6 +72,7 @@ function(zul_device_module name logic)
         PREFIX lib
         OUTPUT_NAME ${name}
         INSTALL_RPATH "$ORIGIN")
+    add_dependencies(modules ${name})
     install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 

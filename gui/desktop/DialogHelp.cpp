@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int spacing = 15; // pixels
+constexpr int titleRoom = 150; // pixels
 constexpr QSize browserSize(640, 480);
 constexpr const char* page = "../zuldoc/default.htm"; // from the working directory
 
@@ -38,6 +39,8 @@ DialogHelp::DialogHelp(QWidget* parent) : QDialog(parent)
     }
     layout->addWidget(close, 0, Qt::AlignRight);
     connect(close, &QPushButton::clicked, this, &DialogHelp::slotClose);
+    // Wide enough for the title to be read, beside what the desktop puts there.
+    resize(sizeHint().expandedTo({fontMetrics().horizontalAdvance(address) + titleRoom, 0}));
 }
 
 void DialogHelp::slotLinkClicked(const QUrl& link)

@@ -463,6 +463,7 @@ TEST(HelpWindow, ShowsWhereThePagesWouldBe)
     help.show();
     EXPECT_EQ(help.windowTitle(), QLatin1String("file:///") + QDir::currentPath() +
                                       QLatin1String("/../zuldoc/default.htm"));
+    EXPECT_GT(help.width(), help.fontMetrics().horizontalAdvance(help.windowTitle()));
     EXPECT_EQ(help.findChild<QTextBrowser*>(), nullptr);
     EXPECT_EQ(help.layout()->spacing(), 15);
     EXPECT_EQ(help.layout()->contentsMargins(), QMargins(15, 15, 15, 15));
