@@ -430,7 +430,7 @@ void DialogMain::closeEvent(QCloseEvent* event)
     if (m_closing) {
         return;
     }
-    if (!m_mayClose && !quitCheck()) {
+    if (!quitCheck()) {
         event->ignore();
         return;
     }

@@ -113,7 +113,6 @@ private:
     WindowDesk* m_desk;
     QTimer m_heartbeat;
     bool m_closing = false;
-    bool m_mayClose = false; ///< the user was asked and has not cancelled
     bool m_lastEdited = false;
     bool m_restored = false;
     std::function<void()> m_endProcess;

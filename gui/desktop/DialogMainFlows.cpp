@@ -154,7 +154,6 @@ void DialogMain::quit()
 {
     if (quitCheck()) {
         m_heartbeat.stop();
-        m_mayClose = true;
         close();
     }
 }
@@ -188,6 +187,8 @@ bool DialogMain::quitCheck()
     // Whatever was answered: the next start resumes the last state.
     m_project.save(Kernel::instance().home() + defaultName);
     SettingsStore::instance().save();
+    // Closing checks once more; what the user does not want to save is not asked for again.
+    m_profileEditor->hide();
     return true;
 }
 
