@@ -217,35 +217,35 @@ void DialogPreferences::slotClose()
     hide();
 }
 
-void DialogPreferences::slotOnClose(int policy)
+void DialogPreferences::slotOnClose(int policy) const
 {
     if (!m_loading) {
         store(setting::onCloseDialog, policy);
     }
 }
 
-void DialogPreferences::slotTopLevel(int when)
+void DialogPreferences::slotTopLevel(int when) const
 {
     if (!m_loading) {
         store(setting::restoreTopLevel, when);
     }
 }
 
-void DialogPreferences::slotAutoLoadProfile(int state)
+void DialogPreferences::slotAutoLoadProfile(int state) const
 {
     if (!m_loading) {
         store(setting::autoLoadProfile, state == Qt::Checked ? 1 : 0);
     }
 }
 
-void DialogPreferences::slotProfileSuffix(const QString& suffix)
+void DialogPreferences::slotProfileSuffix(const QString& suffix) const
 {
     if (!m_loading) {
         store(setting::arinc825ProfileSuffix, suffix);
     }
 }
 
-void DialogPreferences::slotArincVersion(int version)
+void DialogPreferences::slotArincVersion(int version) const
 {
     if (!m_loading) {
         store(setting::arincProfileVersion, version == versionAbove ? highestVersion : version);
@@ -253,14 +253,14 @@ void DialogPreferences::slotArincVersion(int version)
 }
 
 // No control leads here.
-void DialogPreferences::slotTraceType(int format)
+void DialogPreferences::slotTraceType(int format) const
 {
     if (!m_loading) {
         store(setting::traceDefaultFormat, format);
     }
 }
 
-void DialogPreferences::slotTracePath(const QString& path)
+void DialogPreferences::slotTracePath(const QString& path) const
 {
     if (!m_loading) {
         store(setting::tracePath, path);

@@ -25,13 +25,13 @@ public:
 private slots:
     void slotChangePage(QListWidgetItem* current, QListWidgetItem* previous);
     void slotClose();
-    void slotOnClose(int policy);
-    void slotTopLevel(int when);
-    void slotAutoLoadProfile(int state);
-    void slotProfileSuffix(const QString& suffix);
-    void slotArincVersion(int version);
-    void slotTraceType(int format);
-    void slotTracePath(const QString& path);
+    void slotOnClose(int policy) const;
+    void slotTopLevel(int when) const;
+    void slotAutoLoadProfile(int state) const;
+    void slotProfileSuffix(const QString& suffix) const;
+    void slotArincVersion(int version) const;
+    void slotTraceType(int format) const;
+    void slotTracePath(const QString& path) const;
     void slotTraceBrowse();
 
 private:

@@ -101,7 +101,7 @@ bool PackReader::fixed(std::uint8_t head, PackValue& value)
     return take(head & 0x1FU, value.bytes);
 }
 
-// Heads from 0xC0 to 0xDF, by the format's table.
+// Heads from 0xC0 to 0xDF, by the format's table. Of each kind the sizes double from head to head.
 bool PackReader::sized(std::uint8_t head, PackValue& value)
 {
     const auto size = [head](std::uint8_t first) { return std::size_t{1} << (head - first); };
@@ -121,34 +121,6 @@ bool PackReader::sized(std::uint8_t head, PackValue& value)
     case 0xC8:
     case 0xC9:
         return bytes(PackKind::Extension, size(0xC7), 1, value);
-    case 0xCA:
-    case 0xCB:
-        value.kind = PackKind::Real;
-        if (!number(head == 0xCA ? 4 : 8, value.number)) {
-            return false;
-        }
-        value.real =
-            head == 0xCA ? realOf(static_cast<std::uint32_t>(value.number)) : realOf(value.number);
-        return true;
-    case 0xCC:
-    case 0xCD:
-    case 0xCE:
-    case 0xCF:
-        value.kind = PackKind::Unsigned;
-        return number(size(0xCC), value.number);
-    case 0xD0:
-    case 0xD1:
-    case 0xD2:
-    case 0xD3: {
-        if (!number(size(0xD0), value.number)) {
-            return false;
-        }
-        const auto bits = static_cast<unsigned>(8U * size(0xD0));
-        const std::uint64_t sign = std::uint64_t{1} << (bits - 1U);
-        value.kind = (value.number & sign) != 0 ? PackKind::Negative : PackKind::Unsigned;
-        value.number = (value.number ^ sign) - sign;
-        return true;
-    }
     case 0xD4:
     case 0xD5:
     case 0xD6:
@@ -167,8 +139,37 @@ bool PackReader::sized(std::uint8_t head, PackValue& value)
     case 0xDF:
         return entries(PackKind::Map, head == 0xDE ? 2 : 4, value);
     default:
+        return numeric(head, value);
+    }
+}
+
+// Heads of numbers, from 0xCA to 0xD3.
+bool PackReader::numeric(std::uint8_t head, PackValue& value)
+{
+    if (head < 0xCA || head > 0xD3) {
         return false; // 0xC1 is never used
     }
+    if (head <= 0xCB) {
+        value.kind = PackKind::Real;
+        if (!number(head == 0xCA ? 4 : 8, value.number)) {
+            return false;
+        }
+        value.real =
+            head == 0xCA ? realOf(static_cast<std::uint32_t>(value.number)) : realOf(value.number);
+        return true;
+    }
+    const bool isSigned = head >= 0xD0;
+    const auto bytes = std::size_t{1} << (head - (isSigned ? 0xD0U : 0xCCU));
+    value.kind = PackKind::Unsigned;
+    if (!number(bytes, value.number) || !isSigned) {
+        return !m_isCut;
+    }
+    const std::uint64_t sign = std::uint64_t{1} << (8U * bytes - 1U);
+    if ((value.number & sign) != 0) {
+        value.kind = PackKind::Negative;
+    }
+    value.number = (value.number ^ sign) - sign;
+    return true;
 }
 
 bool PackReader::skip()

@@ -51,6 +51,7 @@ private:
     bool entries(PackKind kind, std::size_t lengthBytes, PackValue& value);
     bool fixed(std::uint8_t head, PackValue& value);
     bool sized(std::uint8_t head, PackValue& value);
+    bool numeric(std::uint8_t head, PackValue& value);
     bool take(std::size_t count, ByteView& bytes);
 
     ByteView m_bytes;
