@@ -1,10 +1,13 @@
 #include "edit/ProfileEdit.h"
 
 #include "edit/ProfileChoices.h"
+#include "edit/ProfileSelection.h"
 #include "profile/ComposedId.h"
 #include "profile/DataTypes.h"
 #include "profile/ProfileChecks.h"
 #include "profile/ProfileStore.h"
+
+#include <QFileInfo>
 
 #include <limits>
 #include <utility>
@@ -56,6 +59,16 @@ void eachParameter(ArincProfile& profile, Visit visit)
     }
 }
 
+// A file of bytes that are no profile, such as a picture: readers of text find no section in it,
+// and no fault. One that holds faults only is a profile to be mended.
+bool holdsNothing(const ArincProfile& profile)
+{
+    return profile.valid && profile.header.isEmpty() && profile.name.isEmpty() &&
+           profile.comment.isEmpty() && profile.id == 0 && profile.subId == 0 &&
+           profile.fids.empty() && profile.enums.empty() && profile.userFids.empty() &&
+           profile.userUnits.empty();
+}
+
 } // namespace
 
 ProfileEdit::ProfileEdit(ProfileStore& store) : m_store(store)
@@ -65,6 +78,7 @@ ProfileEdit::ProfileEdit(ProfileStore& store) : m_store(store)
 
 void ProfileEdit::clear()
 {
+    m_unitUsers = UnitUsers();
     m_profile = ArincProfile();
     m_profile.name = QLatin1String(newProfileName);
 }
@@ -72,17 +86,19 @@ void ProfileEdit::clear()
 bool ProfileEdit::read(const QString& path)
 {
     ArincProfile profile;
-    if (!m_store.readProfile(path, profile)) {
+    if (!m_store.readProfile(path, profile) ||
+        (holdsNothing(profile) && QFileInfo(path).size() > 0)) {
         return false;
     }
     m_store.removeFromIndex(profile); // frames are decoded by loaded profiles only
     m_profile = std::move(profile);
+    m_unitUsers = UnitUsers();
     return true;
 }
 
 bool ProfileEdit::write(const QString& path) const
 {
-    return m_store.writeProfile(path, m_profile);
+    return m_store.saveProfile(path, m_profile);
 }
 
 std::optional<std::uint32_t> ProfileEdit::addUserFid()
@@ -126,7 +142,7 @@ QString ProfileEdit::addEnumeration()
 std::optional<std::int32_t> ProfileEdit::addEnumValue(const QString& enumName)
 {
     const auto found = m_profile.enums.find(enumName);
-    if (found == m_profile.enums.end()) {
+    if (found == m_profile.enums.end() || enumName == QLatin1String(ProfileSelection::noEnum)) {
         return std::nullopt;
     }
     auto& values = found->second.values;
@@ -176,19 +192,73 @@ bool ProfileEdit::setUserFidCode(std::uint32_t from, std::uint32_t to)
 
 bool ProfileEdit::setUserUnitCode(std::uint32_t from, std::uint32_t to)
 {
+    const UnitUsers& users = usersOfUnit(from);
     ProfileUserUnit* moved = move(m_profile.userUnits, from, to);
     if (moved == nullptr) {
         return false;
     }
     moved->code = to;
-    if (m_store.unitTable().count(from) == 0) { // else they have the standard's unit
-        eachParameter(m_profile, [from, to](ProfileParameter& parameter) {
-            if (parameter.puc == from) {
-                parameter.puc = to;
+    eachParameter(m_profile, [&users, to](ProfileParameter& parameter) {
+        if (users.ofCode.count(parameter.serial) != 0) {
+            parameter.puc = to;
+        }
+    });
+    return true;
+}
+
+std::set<std::uint32_t> ProfileEdit::renameUserUnit(std::uint32_t code, const QString& name)
+{
+    const auto unit = m_profile.userUnits.find(code);
+    if (unit == m_profile.userUnits.end()) {
+        return {};
+    }
+    const UnitUsers& users = usersOfUnit(code);
+    unit->second.name = name;
+    if (!users.ofName.empty()) {
+        eachParameter(m_profile, [&users, &name](ProfileParameter& parameter) {
+            if (users.ofName.count(parameter.serial) != 0) {
+                setUnitName(parameter, name);
             }
         });
     }
-    return true;
+    return users.ofName;
+}
+
+void ProfileEdit::holdUnit(std::uint32_t code)
+{
+    m_unitUsers = UnitUsers();
+    const auto unit = m_profile.userUnits.find(code);
+    if (unit == m_profile.userUnits.end()) {
+        return;
+    }
+    m_unitUsers.unit = unit->second.serial;
+    if (m_store.unitTable().count(code) != 0) {
+        return; // the parameters with this code have the standard's unit
+    }
+    const QString& name = unit->second.name;
+    eachParameter(m_profile, [this, code, &name](const ProfileParameter& parameter) {
+        if (parameter.puc == code) {
+            m_unitUsers.ofCode.insert(parameter.serial);
+            if (parameter.pun == name) {
+                m_unitUsers.ofName.insert(parameter.serial);
+            }
+        }
+    });
+}
+
+ProfileEdit::UnitUsers& ProfileEdit::usersOfUnit(std::uint32_t code)
+{
+    const auto unit = m_profile.userUnits.find(code);
+    if (unit == m_profile.userUnits.end() || m_unitUsers.unit != unit->second.serial) {
+        holdUnit(code);
+    }
+    return m_unitUsers;
+}
+
+void ProfileEdit::setUnitName(ProfileParameter& parameter, const QString& name)
+{
+    parameter.pun = name;
+    parameter.unitLabel = name; // what XML profiles keep
 }
 
 bool ProfileEdit::renameEnumeration(const QString& from, const QString& to)
@@ -202,7 +272,7 @@ bool ProfileEdit::renameEnumeration(const QString& from, const QString& to)
     }
     moved->name = to;
     const std::int32_t enumId = moved->enumId;
-    // By the id, too: the name is typed letter by letter, and meets others on its way.
+    // By the id, too: a parameter may have named nothing until now.
     eachParameter(m_profile, [&](ProfileParameter& parameter) {
         if (parameter.enumId == enumId && parameter.typeName == from) {
             parameter.typeName = to;
@@ -271,10 +341,12 @@ void ProfileEdit::adoptParameters(const QString& enumName)
     });
 }
 
-void ProfileEdit::setDoc(ProfileParameter& parameter, std::uint32_t doc)
+void ProfileEdit::setDoc(ProfileParameter& parameter, std::uint32_t doc) const
 {
     parameter.doc = doc;
-    parameter.dfid = zul::dfidOfNid(doc);
+    if (isText()) {
+        parameter.dfid = zul::dfidOfNid(doc);
+    }
 }
 
 void ProfileEdit::setServerFid(ProfileParameter& parameter, std::uint32_t fid)
@@ -283,25 +355,32 @@ void ProfileEdit::setServerFid(ProfileParameter& parameter, std::uint32_t fid)
     parameter.doc = zul::nidOfDfid(parameter.doc, fid);
 }
 
-void ProfileEdit::setUnit(ProfileParameter& parameter, std::uint32_t code) const
+void ProfileEdit::setUnit(ProfileParameter& parameter, std::uint32_t code)
 {
     const auto standard = m_store.unitTable().find(code);
     const auto user = m_profile.userUnits.find(code);
-    if (standard != m_store.unitTable().end()) {
-        parameter.pun = standard->second;
-    } else if (user != m_profile.userUnits.end()) {
-        parameter.pun = user->second.name;
-    } else {
+    const bool isUsers = standard == m_store.unitTable().end();
+    if (isUsers && user == m_profile.userUnits.end()) {
         return;
     }
+    m_unitUsers.ofCode.erase(parameter.serial);
+    m_unitUsers.ofName.erase(parameter.serial);
+    if (isUsers && m_unitUsers.unit == user->second.serial) {
+        m_unitUsers.ofCode.insert(parameter.serial);
+        m_unitUsers.ofName.insert(parameter.serial);
+    }
     parameter.puc = code;
-    parameter.unitLabel = parameter.pun; // what XML profiles keep
+    setUnitName(parameter, isUsers ? user->second.name : standard->second);
+}
+
+bool ProfileEdit::isText() const
+{
+    return &m_store.currentFidTable() == &m_store.fidTable825Part2();
 }
 
 std::uint32_t ProfileEdit::maxSid() const
 {
-    const bool isText = &m_store.currentFidTable() == &m_store.fidTable825Part2();
-    return isText ? zul::ProfileChecks::maxTextSid : zul::ProfileChecks::maxXmlSid;
+    return isText() ? zul::ProfileChecks::maxTextSid : zul::ProfileChecks::maxXmlSid;
 }
 
 void ProfileEdit::setDataType(ProfileParameter& parameter, int choice) const

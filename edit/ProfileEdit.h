@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 
 class ProfileStore;
 
@@ -27,10 +28,12 @@ public:
     /// Starts a new profile.
     void clear();
     /// Replaces the profile by that of a file, in the form that the setting "ArincProfileVersion"
-    /// chooses. False if the file cannot be opened or is no profile of that form; the profile then
+    /// chooses. False if the file cannot be opened, is no profile of that form, or has bytes but
+    /// nothing of a profile, so that saving would write over something else; the profile then
     /// stays. One with errors is taken all the same.
     [[nodiscard]] bool read(const QString& path);
-    /// False if the file cannot be opened. A failure to save XML is not told.
+    /// Writes the profile in the form that the setting chooses. False if the file cannot be
+    /// written.
     [[nodiscard]] bool write(const QString& path) const;
 
     // New records get the first code that is free; the result is that code, and empty if all are
@@ -41,7 +44,8 @@ public:
     std::optional<std::uint32_t> addUserUnit();
     /// The name of the new enumeration.
     QString addEnumeration();
-    /// The new value; empty also if there is no enumeration of that name.
+    /// The new value; empty also if there is no enumeration of that name, or it is the one that
+    /// stands for no selection.
     std::optional<std::int32_t> addEnumValue(const QString& enumName);
     /// The function code of a new, empty group.
     std::optional<std::uint32_t> addChapter();
@@ -51,12 +55,19 @@ public:
     // Other codes. A code that another record has is refused: the result is false, and both stay.
 
     bool setUserFidCode(std::uint32_t from, std::uint32_t to);
-    /// The parameters with this unit follow.
+    /// The parameters of the unit that is held follow: not those that have a code on its way.
     bool setUserUnitCode(std::uint32_t from, std::uint32_t to);
     /// The parameters of this enumeration follow. The name of a data type is refused, too: readers
     /// would take that data type.
     bool renameEnumeration(const QString& from, const QString& to);
     bool setEnumValue(const QString& enumName, std::int32_t from, std::int32_t to);
+
+    /// Holds a user unit, of which there is one at a time: its parameters are those that have its
+    /// code now, or are given it by `setUnit` while it is held. None if the code is the standard's.
+    /// What changes a unit that is not held holds it first.
+    void holdUnit(std::uint32_t code);
+    /// The parameters that had the old name follow, too; the result is their serials.
+    std::set<std::uint32_t> renameUserUnit(std::uint32_t code, const QString& name);
 
     /// Moves a group with its parameters to another function code, whose group it replaces. False
     /// if there is no such group, or nothing changes.
@@ -72,18 +83,32 @@ public:
 
     // Fields of a parameter that depend on each other.
 
-    /// The DOC, or on channels that have none the NID.
-    static void setDoc(ProfileParameter& parameter, std::uint32_t doc);
+    /// The DOC, or on channels that have none the NID. In text profiles, the server's function code
+    /// is a part of it; XML profiles keep that by itself, and no DOC on such channels.
+    void setDoc(ProfileParameter& parameter, std::uint32_t doc) const;
     /// The server's function code, which text profiles keep in the NID and XML profiles apart.
     static void setServerFid(ProfileParameter& parameter, std::uint32_t fid);
     /// Code and name of a unit. An unknown code changes nothing.
-    void setUnit(ProfileParameter& parameter, std::uint32_t code) const;
+    void setUnit(ProfileParameter& parameter, std::uint32_t code);
     /// The highest SID that the chosen form of profiles may have.
     std::uint32_t maxSid() const;
     /// `choice` is one of `zul::dataTypeChoices`; another changes nothing.
     void setDataType(ProfileParameter& parameter, int choice) const;
 
 private:
+    /// The unit that is held, and serials of parameters.
+    struct UnitUsers
+    {
+        std::optional<std::uint32_t> unit; ///< serial
+        std::set<std::uint32_t> ofCode;
+        std::set<std::uint32_t> ofName; ///< with its name as well as its code
+    };
+
+    UnitUsers& usersOfUnit(std::uint32_t code);
+    static void setUnitName(ProfileParameter& parameter, const QString& name);
+    bool isText() const;
+
     ProfileStore& m_store;
     ArincProfile m_profile;
+    UnitUsers m_unitUsers;
 };

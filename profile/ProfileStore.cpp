@@ -271,13 +271,16 @@ bool ProfileStore::readProfile(const QString& path, ArincProfile& profile)
     return zul::readTextProfile(path, *this, profile);
 }
 
+bool ProfileStore::saveProfile(const QString& path, const ArincProfile& profile) const
+{
+    return isXmlVersion() ? zul::writeXmlProfile(path, profile)
+                          : zul::writeTextProfile(path, *this, profile);
+}
+
 bool ProfileStore::writeProfile(const QString& path, const ArincProfile& profile) const
 {
-    if (isXmlVersion()) {
-        zul::writeXmlProfile(path, profile); // Deliberate: a failure is not told
-        return true;
-    }
-    return zul::writeTextProfile(path, *this, profile);
+    const bool isSaved = saveProfile(path, profile);
+    return isSaved || isXmlVersion(); // Deliberate: a failure to save XML is not told
 }
 
 void ProfileStore::addEnumeration(const ProfileEnum& enumeration)

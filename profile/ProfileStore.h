@@ -48,8 +48,10 @@ public:
     /// parameters to the index; the profile itself is the caller's. False if the file cannot be
     /// opened or is no profile of that form.
     bool readProfile(const QString& path, ArincProfile& profile);
-    /// Writes a profile in the form that the setting chooses. False if a text profile's file cannot
-    /// be opened; a failure to save XML is not told.
+    /// Writes a profile in the form that the setting chooses. False if it is not in the file after
+    /// that; an old file is then still there.
+    [[nodiscard]] bool saveProfile(const QString& path, const ArincProfile& profile) const;
+    /// The same, but a failure to save XML is not told.
     bool writeProfile(const QString& path, const ArincProfile& profile) const;
 
     const Profiles& profiles() const { return m_profiles; }

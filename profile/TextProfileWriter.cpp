@@ -1,6 +1,5 @@
 #include "profile/TextProfileWriter.h"
 
-#include "core/Console.h"
 #include "core/Latin1.h"
 #include "core/Version.h"
 #include "profile/ProfileNumbers.h"
@@ -110,12 +109,8 @@ bool writeTextProfile(const QString& path, const ProfileStore& store, const Arin
     stream << '\n';
     writeEnums(stream, profile);
     writeParameters(stream, store, profile);
-    stream.flush();
-    if (!file.commit()) {
-        // Deliberate: only a file that cannot be opened makes the result false.
-        print("Profile <%s> not written: %s\n", qPrintable(path), qPrintable(file.errorString()));
-    }
-    return true;
+    stream.flush(); // to the file itself, so that the status tells of a full disk
+    return stream.status() == QTextStream::Ok && file.commit();
 }
 
 } // namespace zul

@@ -74,6 +74,7 @@ void DialogProfileEditor::select(const QTreeWidgetItem& item)
         break;
     case ProfileItem::UserUnit:
         m_selection.unit = ProfileItems::code(item);
+        m_edit.holdUnit(m_selection.unit);
         break;
     case ProfileItem::Enumeration:
         m_selection.enumeration = ProfileItems::name(item);
@@ -107,6 +108,7 @@ void DialogProfileEditor::showButtons(bool isSelected)
     show(deleteButton(), page.deleteText, isSelected && page.canDelete);
 }
 
+// By the kind of the item: the numbers that stand for nothing may be a record's all the same.
 void DialogProfileEditor::showRecord()
 {
     switch (m_page) {
@@ -117,12 +119,16 @@ void DialogProfileEditor::showRecord()
         showInfo();
         break;
     case ProfileItem::UserFid:
+        showFid();
+        break;
     case ProfileItem::UserUnit:
-        showCode();
+        showUnit();
         break;
     case ProfileItem::Enumeration:
-    case ProfileItem::EnumValue:
         showEnumeration();
+        break;
+    case ProfileItem::EnumValue:
+        showEnumValue();
         break;
     case ProfileItem::Chapter:
         showChapter();
@@ -143,13 +149,19 @@ void DialogProfileEditor::showInfo()
     page.setNumber(field::profileSubId, asSigned(profile().subId));
 }
 
-void DialogProfileEditor::showCode()
+void DialogProfileEditor::showFid()
 {
-    EditorForm& page = form(m_page);
+    EditorForm& page = form(ProfileItem::UserFid);
     if (const ProfileUserFid* fid = m_selection.fidOf(profile())) {
         page.setText(field::fidName, fid->name);
         page.setNumber(field::fidValue, asSigned(fid->code));
-    } else if (const ProfileUserUnit* unit = m_selection.unitOf(profile())) {
+    }
+}
+
+void DialogProfileEditor::showUnit()
+{
+    EditorForm& page = form(ProfileItem::UserUnit);
+    if (const ProfileUserUnit* unit = m_selection.unitOf(profile())) {
         page.setText(field::unitName, unit->name);
         page.setNumber(field::unitValue, asSigned(unit->code));
     }
@@ -157,12 +169,17 @@ void DialogProfileEditor::showCode()
 
 void DialogProfileEditor::showEnumeration()
 {
-    EditorForm& page = form(m_page);
+    if (const ProfileEnum* enumeration = m_selection.enumerationOf(profile())) {
+        form(ProfileItem::Enumeration).setText(field::enumName, enumeration->name);
+    }
+}
+
+void DialogProfileEditor::showEnumValue()
+{
+    EditorForm& page = form(ProfileItem::EnumValue);
     if (const ProfileEnumValue* entry = m_selection.valueOf(profile())) {
         page.setNumber(field::enumValue, entry->value);
         page.setText(field::enumString, entry->label);
-    } else if (const ProfileEnum* enumeration = m_selection.enumerationOf(profile())) {
-        page.setText(field::enumName, enumeration->name);
     }
 }
 

@@ -17,8 +17,8 @@ class EditorForm;
 /// "ArincProfileVersion" says so. It checks nothing while the user types; what is wrong is told
 /// when the file is loaded.
 ///
-/// Numbers and names that tell records apart are not given twice: what another record has is
-/// refused, and the field shows the old one again when it is left.
+/// Numbers and names that tell records apart count when their entry is finished, and are not given
+/// twice: what another record has is refused, and the field shows the old one again.
 class DialogProfileEditor : public DialogEditor
 {
     Q_OBJECT
@@ -77,16 +77,20 @@ private:
     void widenButtons();
     void connectRecordPages();
     void connectParameterPage();
-    template <typename Control>
+    void connectKeys();
     void restoreWhenLeft(ProfileItem page, const char* name);
+    /// Shows the record as it is in place of what it did not take.
+    void restore();
     EditorForm& form(ProfileItem page) const;
 
     void select(const QTreeWidgetItem& item);
     /// Fills the page of the selection.
     void showRecord();
     void showInfo();
-    void showCode();
+    void showFid();
+    void showUnit();
     void showEnumeration();
+    void showEnumValue();
     void showChapter();
     void showParameter();
     void fillLists(EditorForm& page);

@@ -74,15 +74,25 @@ void DialogProfileEditor::connectRecordPages()
     EditorForm& unit = form(ProfileItem::UserUnit);
     unit.connectField(field::unitName, this, &Editor::slotUnitName);
     unit.connectField(field::unitValue, this, &Editor::slotUnitValue);
-    form(ProfileItem::Enumeration).connectField(field::enumName, this, &Editor::slotEnumName);
     EditorForm& value = form(ProfileItem::EnumValue);
     value.connectField(field::enumValue, this, &Editor::slotEnumValue);
     value.connectField(field::enumString, this, &Editor::slotEnumString);
     form(ProfileItem::Chapter).connectField(field::chapterFid, this, &Editor::slotChapterFid);
-    restoreWhenLeft<QSpinBox>(ProfileItem::UserFid, field::fidValue);
-    restoreWhenLeft<QSpinBox>(ProfileItem::UserUnit, field::unitValue);
-    restoreWhenLeft<QSpinBox>(ProfileItem::EnumValue, field::enumValue);
-    restoreWhenLeft<QLineEdit>(ProfileItem::Enumeration, field::enumName);
+    connectKeys();
+}
+
+// What tells records apart counts when it is finished: on the way to it stand those of others.
+void DialogProfileEditor::connectKeys()
+{
+    form(ProfileItem::UserFid).control<QSpinBox>(field::fidValue).setKeyboardTracking(false);
+    form(ProfileItem::UserUnit).control<QSpinBox>(field::unitValue).setKeyboardTracking(false);
+    form(ProfileItem::EnumValue).control<QSpinBox>(field::enumValue).setKeyboardTracking(false);
+    auto& enumName = form(ProfileItem::Enumeration).control<QLineEdit>(field::enumName);
+    connect(&enumName, &QLineEdit::editingFinished, this, [this, &enumName] {
+        if (m_page == ProfileItem::Enumeration) {
+            slotEnumName(enumName.text());
+        }
+    });
 }
 
 void DialogProfileEditor::connectParameterPage()
@@ -109,19 +119,23 @@ void DialogProfileEditor::connectParameterPage()
     page.connectField(field::rci, this, &Editor::slotRci);
     page.connectField(field::notes, this, &Editor::slotNotes);
     for (const char* number : {field::min, field::max, field::lat}) {
-        restoreWhenLeft<QLineEdit>(ProfileItem::Parameter, number);
+        restoreWhenLeft(ProfileItem::Parameter, number);
     }
 }
 
 // What a field shows and the record did not take goes when the field is left.
-template <typename Control>
 void DialogProfileEditor::restoreWhenLeft(ProfileItem page, const char* name)
 {
-    connect(&form(page).control<Control>(name), &Control::editingFinished, this, [this, page] {
+    connect(&form(page).control<QLineEdit>(name), &QLineEdit::editingFinished, this, [this, page] {
         if (m_page == page) {
-            guarded([this] { showRecord(); });
+            restore();
         }
     });
+}
+
+void DialogProfileEditor::restore()
+{
+    guarded([this] { showRecord(); });
 }
 
 } // namespace gui

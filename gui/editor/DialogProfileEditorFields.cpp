@@ -61,7 +61,11 @@ void DialogProfileEditor::slotFidValue(int code)
 {
     const std::uint32_t from = m_selection.fid;
     const auto to = static_cast<std::uint32_t>(code);
-    if (isGuarded() || !m_edit.setUserFidCode(from, to)) {
+    if (isGuarded()) {
+        return;
+    }
+    if (!m_edit.setUserFidCode(from, to)) {
+        restore();
         return;
     }
     m_selection.fid = to;
@@ -73,8 +77,8 @@ void DialogProfileEditor::slotFidValue(int code)
 
 void DialogProfileEditor::slotUnitName(const QString& text)
 {
-    change(m_selection.unitOf(profile()), [&](ProfileUserUnit& unit) {
-        unit.name = zul::oneLine(text);
+    change(m_selection.unitOf(profile()), [&](const ProfileUserUnit& unit) {
+        m_items.refreshParameters(m_edit.renameUserUnit(unit.code, zul::oneLine(text)));
         m_areUnitsOld = true;
     });
 }
@@ -82,7 +86,11 @@ void DialogProfileEditor::slotUnitName(const QString& text)
 void DialogProfileEditor::slotUnitValue(int code)
 {
     const auto to = static_cast<std::uint32_t>(code);
-    if (isGuarded() || !m_edit.setUserUnitCode(m_selection.unit, to)) {
+    if (isGuarded()) {
+        return;
+    }
+    if (!m_edit.setUserUnitCode(m_selection.unit, to)) {
+        restore();
         return;
     }
     m_selection.unit = to;
@@ -94,7 +102,11 @@ void DialogProfileEditor::slotUnitValue(int code)
 void DialogProfileEditor::slotEnumName(const QString& text)
 {
     const QString name = zul::oneLine(text);
-    if (isGuarded() || !m_edit.renameEnumeration(m_selection.enumeration, name)) {
+    if (isGuarded()) {
+        return;
+    }
+    if (!m_edit.renameEnumeration(m_selection.enumeration, name)) {
+        restore();
         return;
     }
     m_selection.enumeration = name;
@@ -105,7 +117,11 @@ void DialogProfileEditor::slotEnumName(const QString& text)
 
 void DialogProfileEditor::slotEnumValue(int number)
 {
-    if (isGuarded() || !m_edit.setEnumValue(m_selection.enumeration, m_selection.value, number)) {
+    if (isGuarded()) {
+        return;
+    }
+    if (!m_edit.setEnumValue(m_selection.enumeration, m_selection.value, number)) {
+        restore();
         return;
     }
     m_selection.value = number;
@@ -154,7 +170,7 @@ void DialogProfileEditor::slotDoc(int number)
     const ProfileParameter* selected = m_selection.parameterOf(profile());
     if (selected != nullptr && !zul::hasServer(selected->lcc)) {
         changeParameter([&](ProfileParameter& parameter) {
-            ProfileEdit::setDoc(parameter, static_cast<std::uint32_t>(number));
+            m_edit.setDoc(parameter, static_cast<std::uint32_t>(number));
         });
     }
 }

@@ -224,6 +224,24 @@ void ProfileItems::refreshParameter(QTreeWidgetItem& item, const ProfileFidGroup
     }
 }
 
+void ProfileItems::refreshParameters(const std::set<std::uint32_t>& serials) const
+{
+    if (serials.empty()) {
+        return;
+    }
+    const QTreeWidgetItem& chapters = fixed(ProfileItem::Chapters);
+    for (int i = 0; i < chapters.childCount(); ++i) {
+        const QTreeWidgetItem& chapter = *chapters.child(i);
+        const ProfileFidGroup* group = find(m_profile.fids, code(chapter));
+        for (int j = 0; group != nullptr && j < chapter.childCount(); ++j) {
+            QTreeWidgetItem& item = *chapter.child(j);
+            if (serials.count(code(item)) != 0) {
+                refreshParameter(item, *group);
+            }
+        }
+    }
+}
+
 void ProfileItems::refresh(QTreeWidgetItem& item) const
 {
     switch (kind(item)) {

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <set>
 
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -46,6 +47,8 @@ public:
     void move(QTreeWidgetItem& item, const QVariant& key);
     /// Shows what the record is called now.
     void refresh(QTreeWidgetItem& item) const;
+    /// The same of the parameters with these serials.
+    void refreshParameters(const std::set<std::uint32_t>& serials) const;
 
 private:
     QTreeWidgetItem* make(ProfileItem kind, const QVariant& key) const;

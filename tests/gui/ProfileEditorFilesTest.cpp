@@ -1,6 +1,7 @@
 #include "gui/frame/MessageBoxes.h"
 #include "tests/gui/ProfileEditorFixture.h"
 #include "tests/support/ConsoleCapture.h"
+#include "tests/unit/profile/HostileFiles.h"
 
 #include <QClipboard>
 #include <QSignalSpy>
@@ -157,11 +158,41 @@ TEST_F(ProfileEditorFiles, WhatCannotBeReadLeavesTheProfile)
 TEST_F(ProfileEditorFiles, WhatCannotBeWrittenStaysUnsaved)
 {
     edit();
-    ConsoleCapture console;
-    save(home.file(name("missing/a.pro")));
-    EXPECT_NE(console.out().find("cannot be written"), std::string::npos);
-    EXPECT_TRUE(isChanged());
-    EXPECT_EQ(editor.fileName(), name("none"));
+    for (const int version : {0, 1}) {
+        setVersion(version);
+        ConsoleCapture console;
+        save(home.file(name("missing/a.pro")));
+        EXPECT_NE(console.out().find("cannot be written"), std::string::npos) << version;
+        EXPECT_TRUE(isChanged()) << version;
+        EXPECT_EQ(editor.fileName(), name("none")) << version;
+    }
+}
+
+TEST_F(ProfileEditorFiles, FileWithoutASectionIsNotTakenForAProfile)
+{
+    edit();
+    const zul::test::HostileFiles hostile("Arinc825Profile");
+    int refused = 0;
+    for (const zul::test::HostileFiles::File& file : hostile.files()) {
+        if (file.name == "empty" || file.name == "no XML") {
+            continue; // text profiles
+        }
+        MessageBoxes::setNextAnswer(QMessageBox::No);
+        ConsoleCapture console;
+        open(file.path);
+        EXPECT_NE(console.out().find("cannot be read"), std::string::npos) << file.name;
+        EXPECT_EQ(editor.fileName(), name("none")) << file.name;
+        EXPECT_TRUE(isChanged()) << file.name;
+        ++refused;
+    }
+    EXPECT_GT(refused, 10);
+    EXPECT_EQ(profileName(), name("Edited"));
+    MessageBoxes::setNextAnswer(QMessageBox::No);
+    openText(""); // made by hand, to be filled
+    EXPECT_EQ(editor.fileName(), home.file(name("a.pro")));
+    openText("<parameter>\nshort;line\n"); // nothing but a fault
+    EXPECT_FALSE(isChanged());
+    EXPECT_EQ(profileName(), QString());
 }
 
 TEST_F(ProfileEditorFiles, AnyBytesOpenAsTextProfile)
@@ -171,7 +202,7 @@ TEST_F(ProfileEditorFiles, AnyBytesOpenAsTextProfile)
         bytes += static_cast<char>(i * 7919 >> 3);
     }
     openText(bytes);
-    EXPECT_EQ(editor.fileName(), home.file(name("a.pro")));
+    EXPECT_EQ(editor.fileName(), name("none"));
     openText("<parameter>\n" + bytes + "\n" + pitchLine);
     EXPECT_NE(item({"Parameter", "4 Flight State", "Pitch [deg]"}), nullptr);
 }
@@ -203,7 +234,7 @@ TEST_F(ProfileEditorFiles, ProfileFromNothingComesBack)
         type("unitName", "knots");
         select({"Enumerations"});
         add();
-        type("enumName", "State");
+        enter("enumName", "State");
         add();
         type("enumString", "Off");
         select({"Parameter"});
@@ -268,12 +299,12 @@ TEST_F(ProfileEditorFiles, FaultyProfileIsMended)
     select({"Profile Info"});
     type("profileId", "7");
     select({"User FIDs", "128 Far"});
-    type("fidValue", "22");
+    enter("fidValue", "22");
     select({"User Units", "99 Low"});
-    type("unitValue", "123"); // the parameter with this unit follows
+    enter("unitValue", "123"); // the parameter with this unit follows
     select({"Enumerations"});
     add();
-    type("enumName", "WHAT");
+    enter("enumName", "WHAT");
     add();
     QTreeWidgetItem* chapter = item({"Parameter"})->child(0);
     ASSERT_TRUE(chapter->text(0).startsWith(name("8 ")));

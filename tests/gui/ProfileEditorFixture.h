@@ -130,6 +130,12 @@ protected:
     {
         QTest::keyClick(editor.findChild<QWidget*>(name(field)), key);
     }
+    /// Types, and finishes the entry.
+    void enter(const char* field, const char* text)
+    {
+        type(field, text);
+        press(field, Qt::Key_Return);
+    }
     void choose(const char* field, const char* text)
     {
         auto* box = control<gui::QwtComboBox>(field);

@@ -35,7 +35,7 @@ TEST_F(ProfileEditorParameter, EveryFieldOfAParameter)
     type("unitName", "knots");
     select({"Enumerations"});
     add();
-    type("enumName", "State");
+    enter("enumName", "State");
     addParameter();
     type("nme", "Speed");
     choose("lcc", "TMC");

@@ -192,10 +192,10 @@ TEST_F(ProfileEditor, UserFidFields)
     add();
     type("fidName", "Mine");
     EXPECT_EQ(selected(), name("2 Mine"));
-    type("fidValue", "22");
+    enter("fidValue", "22");
     EXPECT_EQ(selected(), name("22 Mine"));
     EXPECT_EQ(below(item({"User FIDs"})), texts({"1 New FID", "22 Mine"}));
-    type("fidValue", "0");
+    enter("fidValue", "0");
     EXPECT_EQ(below(item({"User FIDs"})), texts({"0 Mine", "1 New FID"}));
     EXPECT_EQ(selected(), name("0 Mine"));
     EXPECT_EQ(savedLines("<fid>"), texts({"Mine;0", "New FID;1"}));
@@ -208,7 +208,6 @@ TEST_F(ProfileEditor, CodeOfAnotherUserFidIsRefused)
     add();
     type("fidValue", "1");
     EXPECT_EQ(below(item({"User FIDs"})), texts({"1 New FID", "2 New FID"}));
-    EXPECT_EQ(number("fidValue"), 1);
     press("fidValue", Qt::Key_Tab);
     EXPECT_EQ(number("fidValue"), 2); // that of the record again
     EXPECT_EQ(savedLines("<fid>"), texts({"New FID;1", "New FID;2"}));
@@ -252,11 +251,11 @@ TEST_F(ProfileEditor, UnitsAreAddedFrom100)
     add();
     EXPECT_EQ(selected(), name("100 NewUnit"));
     type("unitName", "knots");
-    type("unitValue", "101");
+    enter("unitValue", "101");
     EXPECT_EQ(below(item({"User Units"})), texts({"100 knots", "101 NewUnit"}));
     press("unitValue", Qt::Key_Return);
     EXPECT_EQ(number("unitValue"), 100);
-    type("unitValue", "999");
+    enter("unitValue", "999");
     EXPECT_EQ(savedLines("<unit>"), texts({"NewUnit;101", "knots;999"}));
 }
 
@@ -268,17 +267,16 @@ TEST_F(ProfileEditor, EnumerationsAndValues)
     select({"Enumerations"});
     add();
     EXPECT_EQ(selected(), name("NewEnum1"));
-    type("enumName", "A");
+    enter("enumName", "A");
     EXPECT_EQ(below(item({"Enumerations"})), texts({"A", "NewEnum"}));
     add();
     EXPECT_EQ(selected(), name("0:  NewValue"));
     add();
     EXPECT_EQ(selected(), name("1:  NewValue"));
     type("enumString", "On");
-    type("enumValue", "-12");
+    enter("enumValue", "-12");
     EXPECT_EQ(below(item({"Enumerations", "A"})), texts({"-12:  On", "0:  NewValue"}));
-    type("enumValue", "0");
-    press("enumValue", Qt::Key_Return);
+    enter("enumValue", "0");
     EXPECT_EQ(number("enumValue"), -12);
     EXPECT_EQ(savedLines("<enum>"), texts({"A;-12;On", "A;0;NewValue"}));
     remove();
@@ -295,7 +293,7 @@ TEST_F(ProfileEditor, RenamedEnumerationKeepsItsChildrenAndParameters)
              "NOC;4;1;0;0;0;0.0;0.7;0;State;Mode;n.a.;0;1;0;N\n");
     select({"Enumerations", "State", "0:  Off"});
     select({"Enumerations", "State"});
-    type("enumName", "ZZ");
+    enter("enumName", "ZZ");
     EXPECT_EQ(below(item({"Enumerations"})), texts({"ZZ", "Zeta"}));
     EXPECT_EQ(selected(), name("ZZ"));
     EXPECT_TRUE(tree->currentItem()->isExpanded());
@@ -304,13 +302,15 @@ TEST_F(ProfileEditor, RenamedEnumerationKeepsItsChildrenAndParameters)
     select({"Parameter", "4 Flight State", "Mode [n.a.]"});
     EXPECT_EQ(chosen("dtn"), name("ZZ"));
     select({"Enumerations", "ZZ"});
-    type("enumName", "Zeta");
-    press("enumName", Qt::Key_Tab);
-    EXPECT_EQ(text("enumName"), name("Zet")); // "Zeta" is another's
-    type("enumName", "FLOAT");
-    press("enumName", Qt::Key_Tab);
-    EXPECT_EQ(text("enumName"), name("FLOA")); // a data type
-    EXPECT_EQ(savedParameter().value(9), name("FLOA"));
+    for (const char* taken : {"Zeta", "FLOAT"}) { // another's, and that of a data type
+        enter("enumName", taken);
+        EXPECT_EQ(text("enumName"), name("ZZ")) << taken;
+        type("enumName", taken);
+        press("enumName", Qt::Key_Tab);
+        EXPECT_EQ(text("enumName"), name("ZZ")) << taken;
+    }
+    EXPECT_EQ(below(item({"Enumerations"})), texts({"ZZ", "Zeta"}));
+    EXPECT_EQ(savedParameter().value(9), name("ZZ"));
 }
 
 TEST_F(ProfileEditor, ChaptersAreAddedFromTheFirstFreeCode)

@@ -123,8 +123,11 @@ TEST_F(EditOfProfile, ProfileWithErrorsIsTaken)
 
 TEST_F(EditOfProfile, UnwritableFileIsTold)
 {
-    EXPECT_FALSE(edit.write(home.file(name("missing/a.pro"))));
-    EXPECT_TRUE(edit.write(home.file(name("a.pro"))));
+    for (const int version : {0, 1}) {
+        setVersion(version);
+        EXPECT_FALSE(edit.write(home.file(name("missing/a.pro")))) << version;
+        EXPECT_TRUE(edit.write(home.file(name("a.pro")))) << version;
+    }
 }
 
 TEST_F(EditOfProfile, UserFidTakesTheFirstReservedCode)
@@ -380,7 +383,7 @@ TEST_F(EditOfProfile, ChapterOfAUserFidIsNamedAfterIt)
 TEST_F(EditOfProfile, DocAndServerShareTheNid)
 {
     ProfileParameter parameter;
-    ProfileEdit::setDoc(parameter, 5 << 9 | 7);
+    edit.setDoc(parameter, 5 << 9 | 7);
     EXPECT_EQ(parameter.doc, 5U << 9 | 7U);
     EXPECT_EQ(parameter.dfid, 5U);
     ProfileEdit::setServerFid(parameter, 127);

@@ -2,9 +2,11 @@
 
 #include "profile/ProfileStore.h"
 #include "profile/TextProfileReader.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/SettableClock.h"
 #include "tests/support/TestHome.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -104,6 +106,22 @@ TEST_F(TextWriterOfProfiles, FileThatCannotBeOpened)
 {
     EXPECT_FALSE(
         zul::writeTextProfile(home.path() + QStringLiteral("none/b.pro"), store, ArincProfile()));
+}
+
+TEST_F(TextWriterOfProfiles, FailureInTheMiddleLeavesTheOldFile)
+{
+    ArincProfile profile;
+    // The limits are met while the text is written, and only when its end is.
+    for (const int length : {100'000, 9'000}) {
+        home.write(fileName, "old");
+        profile.header = QString(length, QLatin1Char('x'));
+        {
+            const zul::test::FileSizeLimit limit(8'000);
+            EXPECT_FALSE(zul::writeTextProfile(home.file(fileName), store, profile)) << length;
+        }
+        EXPECT_EQ(home.read(fileName), QByteArray("old")) << length;
+        EXPECT_EQ(QDir(home.path()).entryList(QDir::Files), QStringList(fileName)) << length;
+    }
 }
 
 TEST_F(TextWriterOfProfiles, DirectoryAndPipeAreNotReplaced)

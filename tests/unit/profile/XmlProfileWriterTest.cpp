@@ -4,6 +4,7 @@
 #include "profile/ProfileStore.h"
 #include "profile/XmlProfileReader.h"
 #include "tests/support/ConsoleCapture.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/TestHome.h"
 #include "tests/unit/profile/GoldenFile.h"
 
@@ -11,9 +12,7 @@
 #include <QDomDocument>
 #include <QLocale>
 
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <utility>
 
 namespace {
@@ -402,37 +401,13 @@ TEST_F(XmlProfileWriter, PathThatCannotBeWritten)
               QStringList(directory));
 }
 
-// Stands in for a full disk: files of the process cannot grow beyond a size while it lives.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_old);
-        rlimit limit = m_old;
-        limit.rlim_cur = bytes;
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    void (*m_oldHandler)(int);
-    rlimit m_old{};
-};
-
 TEST_F(XmlProfileWriter, FailureInTheMiddleLeavesTheOldFile)
 {
     home.write(fileName, "old");
     ArincProfile profile;
     profile.comment = QString(100000, QLatin1Char('x'));
     {
-        const FileSizeLimit limit(20000);
+        const test::FileSizeLimit limit(20000);
         EXPECT_FALSE(writeXmlProfile(home.file(fileName), profile));
     }
     EXPECT_EQ(home.read(fileName), QByteArray("old"));
@@ -465,6 +440,16 @@ TEST_F(XmlProfileWriterStore, FailureToSaveXmlIsNotTold)
 {
     setVersion(1);
     EXPECT_TRUE(store.writeProfile(home.file(QStringLiteral("no/where")), ArincProfile{}));
+}
+
+TEST_F(XmlProfileWriterStore, SavingTellsTheTruthInBothForms)
+{
+    for (const int version : {0, 1}) {
+        setVersion(version);
+        EXPECT_FALSE(store.saveProfile(home.file(QStringLiteral("no/where")), ArincProfile{}));
+        EXPECT_TRUE(store.saveProfile(home.file(fileName), ArincProfile{}));
+        EXPECT_EQ(home.read(fileName).startsWith("<?xml"), version == 1);
+    }
 }
 
 } // namespace
