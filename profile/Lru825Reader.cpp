@@ -94,6 +94,12 @@ private:
         m_source.skip();
     }
 
+    // To the end of an element that has no children.
+    void end()
+    {
+        eachChild([this] { passOver(); });
+    }
+
     void lru()
     {
         const Attributes attributes = m_source.attributes();
@@ -135,7 +141,7 @@ private:
         made.phaseSeg2 = xmlNumber(attributes, attribute::phaseSeg2);
         made.samplingPointMode =
             m_schema.samplingPointModes.codeOf(xmlText(attributes, attribute::samplingPointMode));
-        m_source.skip();
+        end();
     }
 
     void communication()
@@ -196,7 +202,7 @@ private:
         made.name = xmlText(attributes, attribute::name);
         made.rci = m_schema.redundancyChannels.codeOf(xmlText(attributes, attribute::rci));
         owner.assignments.push_back(made);
-        m_source.skip();
+        end();
     }
 
     void dataField(Lru825DataField& field)
@@ -219,7 +225,7 @@ private:
         made.pvsSpp = position(attributes, attribute::pvsSpp);
         made.pvsEpp = position(attributes, attribute::pvsEpp);
         field.parameters.push_back(made);
-        m_source.skip();
+        end();
     }
 
     void parameterList()
@@ -253,7 +259,7 @@ private:
         made.key = xmlText(attributes, attribute::key);
         made.value = xmlNumber(attributes, attribute::value);
         owner.enumEntries.push_back(made);
-        m_source.skip();
+        end();
     }
 
     XmlSource& m_source;

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int spacing = 15; // pixels
+constexpr int spacing = 15;    // pixels
 constexpr int titleRoom = 150; // pixels
 constexpr QSize browserSize(640, 480);
 constexpr const char* page = "../zuldoc/default.htm"; // from the working directory

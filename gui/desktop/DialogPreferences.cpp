@@ -4,6 +4,7 @@
 #include "core/SettingsStore.h"
 #include "gui/controls/Look.h"
 #include "gui/controls/QwtComboBox.h"
+#include "gui/controls/WheelGuard.h"
 #include "gui/frame/FileDialogs.h"
 
 #include <QCheckBox>
@@ -59,6 +60,7 @@ QwtComboBox* makeChoices(const char* name, const std::array<Choice, Size>& choic
 {
     auto* box = new QwtComboBox;
     box->setObjectName(QLatin1String(name));
+    WheelGuard::protect(box);
     for (const Choice& choice : choices) {
         box->addItem(QLatin1String(choice.text), choice.value);
     }
@@ -147,6 +149,7 @@ QWidget* DialogPreferences::buildProfiles()
     m_suffix = new QComboBox;
     m_suffix->setObjectName(QStringLiteral("suffix"));
     m_suffix->setEditable(true);
+    WheelGuard::protect(m_suffix);
     m_suffix->setInsertPolicy(QComboBox::NoInsert);
     m_suffix->setCompleter(nullptr); // it would turn ".PRO" into ".pro", which is another suffix
     for (const char* suffix : suffixes) {

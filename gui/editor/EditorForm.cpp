@@ -22,6 +22,7 @@ constexpr int textLines = 4;     ///< that a field of several lines shows at lea
 constexpr int leastLetters = 12; ///< that a choice shows at least; long ones widen no window
 constexpr int highestBit = 7;
 constexpr const char* nearestProperty = "showsNearest"; ///< of a number: the record has another one
+constexpr const char* typedProperty = "isTyped";        ///< of a number: since it was shown
 
 QString rangeText(const EditorField& field)
 {
@@ -163,6 +164,8 @@ QSpinBox* EditorForm::makeNumber(const EditorField& field, const QString& name)
     WheelGuard::protect(number);
     keep(number, name);
     setRange(field, *number);
+    connect(number->findChild<QLineEdit*>(), &QLineEdit::textEdited, number,
+            [number] { number->setProperty(typedProperty, true); });
     connect(number, &QSpinBox::editingFinished, this, [number] { takeNearest(*number); });
     return number;
 }
@@ -231,7 +234,7 @@ void EditorForm::setNumber(const char* name, qint64 value) const
     auto& number = control<QSpinBox>(name);
     number.setValue(bounded(value));
     number.setProperty(nearestProperty, number.value() != value);
-    number.findChild<QLineEdit*>()->setModified(false);
+    number.setProperty(typedProperty, false);
 }
 
 void EditorForm::setReal(const char* name, double value) const
@@ -251,7 +254,7 @@ void EditorForm::setRounded(const char* name, double value) const
 // What is typed is taken although the number already showed it, if the record has another one.
 void EditorForm::takeNearest(QSpinBox& number)
 {
-    if (number.property(nearestProperty).toBool() && number.findChild<QLineEdit*>()->isModified()) {
+    if (number.property(nearestProperty).toBool() && number.property(typedProperty).toBool()) {
         number.setProperty(nearestProperty, false);
         emit number.valueChanged(number.value());
     }

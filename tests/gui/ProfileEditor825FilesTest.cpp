@@ -200,7 +200,7 @@ void ProfileEditor825Files::expectMessage(const Lru825Message& message, double p
     EXPECT_EQ(message.latencyMax, latencyMs);
     EXPECT_EQ(message.defaultPort, 7);
     EXPECT_EQ(message.fmc11BitId, 2047U);
-    EXPECT_EQ(message.impliedFunctionalStatus, 3U);
+    EXPECT_EQ(message.impliedFunctionalStatus, 2U);
     ASSERT_EQ(message.assignments.size(), 1U);
     EXPECT_EQ(message.assignments.at(0).name, QLatin1String("can1"));
     EXPECT_EQ(message.assignments.at(0).rci, 3U);
@@ -234,7 +234,7 @@ void ProfileEditor825Files::expectAll(double periodMs, double latencyMs) const
     ASSERT_EQ(document().interfaces.size(), 1U);
     EXPECT_EQ(interface().name, QLatin1String("can1"));
     EXPECT_EQ(interface().bitRate, 1U);
-    EXPECT_EQ(interface().rci, 1U);
+    EXPECT_EQ(interface().rci, 2U);
     EXPECT_EQ(interface().comment, QLatin1String("left"));
     EXPECT_EQ(interface().timeQuantumPerBit, 16);
     EXPECT_EQ(interface().resyncJumpWidth, 2);

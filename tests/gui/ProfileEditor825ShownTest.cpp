@@ -4,6 +4,8 @@
 
 #include <QCheckBox>
 #include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
 
 #include <limits>
 #include <map>
@@ -16,33 +18,12 @@ namespace {
 using namespace zul;
 using gui::FileDialogs;
 using gui::MessageBoxes;
+using zul::test::Shown;
+using zul::test::shownOn;
 
 class ProfileEditor825Shown : public zul::test::ProfileEditor825Filled
 {
 };
-
-// What every control of a page shows, by its name.
-using Shown = std::map<std::string, std::string>;
-
-Shown shownOn(const gui::EditorForm& page)
-{
-    Shown shown;
-    for (const QWidget* control : page.findChildren<QWidget*>()) {
-        const std::string name = control->objectName().toStdString();
-        if (const auto* line = qobject_cast<const QLineEdit*>(control)) {
-            shown[name] = line->text().toStdString();
-        } else if (const auto* text = qobject_cast<const QPlainTextEdit*>(control)) {
-            shown[name] = text->toPlainText().toStdString();
-        } else if (const auto* number = qobject_cast<const QSpinBox*>(control)) {
-            shown[name] = number->text().toStdString();
-        } else if (const auto* box = qobject_cast<const QComboBox*>(control)) {
-            shown[name] = box->currentText().toStdString();
-        } else if (const auto* check = qobject_cast<const QCheckBox*>(control)) {
-            shown[name] = check->isChecked() ? "yes" : "no";
-        }
-    }
-    return shown;
-}
 
 // A page shows every field of the record that is selected, after another one of its kind.
 TEST_F(ProfileEditor825Shown, PagesAreFilledWithWhatWasEntered)
@@ -77,13 +58,11 @@ TEST_F(ProfileEditor825Shown, PagesAreFilledWithWhatWasEntered)
         item({"Parameter List"})->child(1),
         item({"Parameter List", "20 Speed"})->child(1)};
     for (std::size_t i = 0; i < filled.size(); ++i) {
-        select(filled[i]);
-        const Shown entered = shownOn(*page());
         select(fresh[i]);
         const Shown empty = shownOn(*page());
         select(filled[i]);
-        EXPECT_EQ(shownOn(*page()), entered) << i;
-        for (const auto& [name, text] : entered) {
+        EXPECT_EQ(shownOn(*page()), entered()) << i;
+        for (const auto& [name, text] : entered()) {
             EXPECT_NE(text, empty.at(name)) << name << ": the next page shows the same";
         }
     }
@@ -99,20 +78,16 @@ TEST_F(ProfileEditor825Shown, PagesAreFilledWithWhatWasEntered)
 TEST_F(ProfileEditor825Shown, HeaderAndLruAreFilledFromTheFile)
 {
     fillHeaderAndLru();
-    select({"Profile Header"});
-    const Shown header = shownOn(*page());
-    select({"LRU"});
-    const Shown lru = shownOn(*page());
     saveAs("lru.xml");
     click("new");
     for (const auto& [name, text] : shownOn(*page())) {
-        EXPECT_NE(text, header.at(name)) << name;
+        EXPECT_NE(text, entered().at(name)) << name;
     }
     FileDialogs::setNextFileName(path("lru.xml"));
     click("open");
-    EXPECT_EQ(shownOn(*page()), header);
+    EXPECT_EQ(shownOn(*page()), entered());
     select({"LRU"});
-    EXPECT_EQ(shownOn(*page()), lru);
+    EXPECT_EQ(shownOn(*page()), entered());
 }
 
 TEST_F(ProfileEditor825Shown, EachOfTheThreeBitsHasItsOwn)
@@ -165,6 +140,92 @@ TEST_F(ProfileEditor825Shown, NearestNumberThatIsTypedIsSavedAtOnce)
     type("dataFieldDlc", "64");
     add();
     EXPECT_EQ(transmitted().dataField.dlc, 64) << "before the page goes";
+}
+
+// What is typed over a nearest number counts before the work is asked for, or goes.
+TEST_F(ProfileEditor825Shown, NearestNumberThatIsTypedIsAskedFor)
+{
+    const auto prepare = [this] {
+        openFile("wide.xml", "<Arinc825Profile name='w' major='-1'/>");
+        select({"Profile Header"});
+        type("headerMajor", "0");
+        EXPECT_FALSE(m_editor->isChanged()) << "not yet";
+    };
+    int questions = 0;
+    prepare();
+    MessageBoxes::setNextAnswer(QMessageBox::Cancel);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(asked(), ++questions);
+    for (const char* button : {"new", "open"}) {
+        MessageBoxes::setNextAnswer(QMessageBox::No);
+        FileDialogs::setNextFileName(QString());
+        click("new");
+        ++questions;
+        prepare();
+        MessageBoxes::setNextAnswer(QMessageBox::Cancel);
+        click(button);
+        EXPECT_EQ(asked(), ++questions) << button;
+        EXPECT_EQ(document().major, 0);
+    }
+    QTest::keyClick(&find<QWidget>("headerMajor"), Qt::Key_Return);
+    MessageBoxes::setNextAnswer(QMessageBox::No);
+    click("new");
+    prepare();
+    saveAs("other.xml");
+    EXPECT_TRUE(m_home.read(QStringLiteral("other.xml")).contains("major=\"0\""));
+}
+
+TEST_F(ProfileEditor825Shown, NearestNumberIsTakenByReturn)
+{
+    openFile("wide.xml", "<Arinc825Profile name='w' major='-1'/>");
+    select({"Profile Header"});
+    type("headerMajor", "0");
+    QTest::keyClick(&find<QWidget>("headerMajor"), Qt::Key_Return);
+    EXPECT_EQ(document().major, 0);
+    EXPECT_TRUE(m_editor->isChanged());
+}
+
+TEST_F(ProfileEditor825Shown, EditorMayGoBehindItsBoxesAndChoosers)
+{
+    for (const char* button : {"open", "save-as"}) {
+        open();
+        QTimer::singleShot(0, [this] { m_editor.reset(); });
+        click(button);
+        EXPECT_EQ(m_editor, nullptr) << button;
+    }
+    for (const auto answer : {QMessageBox::Yes, QMessageBox::No}) {
+        open();
+        select({"Profile Header"});
+        type("headerName", "Changed");
+        QTimer::singleShot(0, [this, answer] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            QTimer::singleShot(0, [this] { m_editor.reset(); });
+            if (answer == QMessageBox::Yes) {
+                qobject_cast<QPushButton*>(box->focusWidget())->click(); // "Yes": a chooser follows
+            }
+        });
+        click("new");
+        EXPECT_EQ(m_editor, nullptr);
+    }
+    open();
+}
+
+TEST_F(ProfileEditor825Shown, TitleKeepsWhatQtTakesForAMark)
+{
+    saveAs("[*].xml");
+    EXPECT_TRUE(m_editor->windowTitle().contains(QLatin1String("[*][*].xml]")));
+}
+
+TEST_F(ProfileEditor825Shown, ElementsInsideLeavesAreForeignToo)
+{
+    zul::test::ConsoleCapture console;
+    openFile("x.xml", "<Arinc825Profile name='f'><LRU><CANBusInterfaceList><CANBusInterface>"
+                      "<BitTiming><x/></BitTiming></CANBusInterface></CANBusInterfaceList></LRU>"
+                      "<ParameterList><Parameter><Enum><y/></Enum></Parameter></ParameterList>"
+                      "</Arinc825Profile>");
+    EXPECT_NE(console.out().find("2 elements are none of an LRU document"), std::string::npos)
+        << console.out();
 }
 
 TEST_F(ProfileEditor825Shown, AssignmentsKeepTheNameOfARenamedOrDeletedInterface)

@@ -1,5 +1,5 @@
-#include "modules/virtual/NodeSettings.h"
 #include "modules/support/SendSchedule.h"
+#include "modules/virtual/NodeSettings.h"
 #include "node/IdentificationClient.h"
 #include "node/ServiceLink.h"
 #include "node/UploadClient.h"
@@ -176,8 +176,7 @@ INSTANTIATE_TEST_SUITE_P(Files, UploadOfSize, testing::Values(0, 4, 5, 4'096, 1'
 
 TEST_F(UploadBus, DeviceHoldsTheLargestFile)
 {
-    EXPECT_LE(uploadFrameCount(UploadClient::maxFileBytes),
-              canmodule::SendSchedule::usualCapacity);
+    EXPECT_LE(uploadFrameCount(UploadClient::maxFileBytes), canmodule::SendSchedule::usualCapacity);
 }
 
 TEST_F(UploadBus, ProgressComesFromTheDevice)
