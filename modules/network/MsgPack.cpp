@@ -159,12 +159,12 @@ bool PackReader::numeric(std::uint8_t head, PackValue& value)
         return true;
     }
     const bool isSigned = head >= 0xD0;
-    const auto bytes = std::size_t{1} << (head - (isSigned ? 0xD0U : 0xCCU));
+    const unsigned bits = 8U << (head & 3U); // from 0xCC and from 0xD0 on
     value.kind = PackKind::Unsigned;
-    if (!number(bytes, value.number) || !isSigned) {
+    if (!number(bits / 8U, value.number) || !isSigned) {
         return !m_isCut;
     }
-    const std::uint64_t sign = std::uint64_t{1} << (8U * bytes - 1U);
+    const std::uint64_t sign = std::uint64_t{1} << (bits - 1U);
     if ((value.number & sign) != 0) {
         value.kind = PackKind::Negative;
     }
