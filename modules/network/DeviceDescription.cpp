@@ -17,6 +17,7 @@ DeviceProperty property(const char* label, const char* key, PropertyKind kind,
 std::vector<PropertyChoice> protocolChoices()
 {
     std::vector<PropertyChoice> choices;
+    choices.reserve(protocolNames.size());
     for (const char* name : protocolNames) {
         choices.push_back({name, static_cast<std::int32_t>(choices.size())});
     }

@@ -32,7 +32,7 @@ NetworkDevice::NetworkDevice()
 
 NetworkDevice::~NetworkDevice()
 {
-    close();
+    NetworkDevice::close();
 }
 
 bool NetworkDevice::open()

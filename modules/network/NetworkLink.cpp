@@ -39,8 +39,8 @@ Endpoint anyAddress(bool isV6, std::uint16_t port)
 
 } // namespace
 
-NetworkLink::NetworkLink(const NetworkSettings& settings, MessageQueue& queue)
-    : m_settings(settings), m_queue(queue)
+NetworkLink::NetworkLink(NetworkSettings settings, MessageQueue& queue)
+    : m_settings(std::move(settings)), m_queue(queue)
 {
 }
 

@@ -58,7 +58,7 @@ public:
     Protocol protocol() const { return m_settings.protocol; }
 
 private:
-    NetworkLink(const NetworkSettings& settings, MessageQueue& queue);
+    NetworkLink(NetworkSettings settings, MessageQueue& queue);
 
     bool openCannelloni(std::string& error);
     bool openPythonCan(std::string& error);

@@ -2,6 +2,7 @@
 
 #include "modules/support/NumberText.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace cannetwork {
@@ -29,12 +30,8 @@ bool isNumberKey(const std::string& key)
     constexpr std::array<const char*, 8> numberKeys{
         key::protocol,     key::peerPort,  key::localPort, key::flushTime,
         key::acceptOthers, key::groupPort, key::bitRate,   key::receiveOwn};
-    for (const char* known : numberKeys) {
-        if (key == known) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(numberKeys.begin(), numberKeys.end(),
+                       [&key](const char* known) { return key == known; });
 }
 
 } // namespace
