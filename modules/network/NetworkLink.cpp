@@ -151,7 +151,9 @@ void NetworkLink::takeDatagram(const Datagram& datagram)
     m_counters.foreignDatagrams += isForeign ? 1 : 0;
     m_counters.badDatagrams += fault != DatagramFault::None ? 1 : 0;
     m_counters.receivedFrames += m_frames.size();
-    m_counters.missingDatagrams = m_decoder->missing() - m_missingBefore;
+    // A late datagram takes back what was counted, perhaps before the counters were cleared.
+    const std::uint64_t missing = m_decoder->missing();
+    m_counters.missingDatagrams = missing - std::min(missing, m_missingBefore);
     m_counters.kernelDrops = datagram.kernelDrops - m_dropsBefore;
 }
 

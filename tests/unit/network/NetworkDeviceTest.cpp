@@ -227,6 +227,25 @@ TEST_F(NetworkPair, BadDatagramsAreCountedAndNothingElse)
     EXPECT_TRUE(m_b.waitFor([&] { return m_b.row("Bad datagrams") == "0"; }));
 }
 
+TEST_F(NetworkPair, LateDatagramAfterClearLeavesNothingMissing)
+{
+    open();
+    UdpSocket stranger;
+    std::string error;
+    ASSERT_TRUE(stranger.connectTo(*Endpoint::parse("127.0.0.1", m_portB), error));
+    const auto send = [&stranger](std::uint8_t number) {
+        const std::vector<std::uint8_t> bytes{2, 0, number, 0, 0};
+        EXPECT_EQ(stranger.send({bytes.data(), bytes.size()}), UdpSocket::SendResult::Sent);
+    };
+    send(10);
+    send(12);
+    EXPECT_TRUE(m_b.waitFor([&] { return m_b.row("Missing datagrams") == "1"; }));
+    EXPECT_TRUE(m_b.control(zul::MessageCtrl::ECtrl::ClearStatus));
+    send(11);
+    EXPECT_TRUE(m_b.waitFor([&] { return m_b.row("Received datagrams") == "1"; }));
+    EXPECT_EQ(m_b.row("Missing datagrams"), "0");
+}
+
 TEST_F(NetworkPair, ScheduleIsKept)
 {
     m_a.set("FlushTime", "0");
