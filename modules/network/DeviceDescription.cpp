@@ -1,28 +1,14 @@
 #include "modules/network/DeviceDescription.h"
 
 #include "modules/network/NetworkSettings.h"
-
-#include <utility>
+#include "modules/support/Properties.h"
 
 namespace cannetwork {
 
+using canmodule::numberedChoices;
+using canmodule::property;
+
 namespace {
-
-DeviceProperty property(const char* label, const char* key, PropertyKind kind,
-                        std::vector<PropertyChoice> choices = {})
-{
-    return {label, key, {}, kind, std::move(choices), {}};
-}
-
-std::vector<PropertyChoice> protocolChoices()
-{
-    std::vector<PropertyChoice> choices;
-    choices.reserve(protocolNames.size());
-    for (const char* name : protocolNames) {
-        choices.push_back({name, static_cast<std::int32_t>(choices.size())});
-    }
-    return choices;
-}
 
 std::vector<PropertyChoice> yesOrNo()
 {
@@ -40,7 +26,8 @@ DeviceInfo deviceDescription()
     info.moduleName = "libCanNetwork";
     info.properties = {
         property("Interface Name", key::interfaceName, PropertyKind::Text),
-        property("Protocol", key::protocol, PropertyKind::Selection, protocolChoices()),
+        property("Protocol", key::protocol, PropertyKind::Selection,
+                 numberedChoices(protocolNames)),
         property("cannelloni: Peer Address", key::peer, PropertyKind::Text),
         property("cannelloni: Peer Port", key::peerPort, PropertyKind::Text),
         property("cannelloni: Local Port", key::localPort, PropertyKind::Text),

@@ -4,8 +4,8 @@
 #include "message/MessageCtrl.h"
 #include "modules/network/DeviceDescription.h"
 #include "modules/network/StatusReport.h"
+#include "modules/support/Clocks.h"
 
-#include <chrono>
 #include <utility>
 
 namespace cannetwork {
@@ -13,13 +13,6 @@ namespace cannetwork {
 namespace {
 
 constexpr BusTime reportInterval = 200 * millisecond;
-
-BusTime steadyNow()
-{
-    return std::chrono::duration_cast<std::chrono::nanoseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
 
 } // namespace
 

@@ -2,9 +2,9 @@
 
 #include "modules/network/Cannelloni.h"
 #include "modules/network/PythonCan.h"
+#include "modules/support/Clocks.h"
 
 #include <algorithm>
-#include <chrono>
 #include <iterator>
 #include <utility>
 
@@ -14,20 +14,6 @@ namespace {
 
 constexpr BusTime retryPause = millisecond;
 constexpr int datagramsATurn = 256; ///< received before what waits is sent
-
-BusTime steadyNow()
-{
-    return std::chrono::duration_cast<std::chrono::nanoseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
-
-BusTime wallNow()
-{
-    return std::chrono::duration_cast<std::chrono::nanoseconds>(
-               std::chrono::system_clock::now().time_since_epoch())
-        .count();
-}
 
 Endpoint anyAddress(bool isV6, std::uint16_t port)
 {

@@ -1,9 +1,10 @@
 #include "modules/network/UdpSocket.h"
 
+#include "modules/support/Clocks.h"
+
 #include <algorithm>
 #include <arpa/inet.h>
 #include <cerrno>
-#include <chrono>
 #include <cstring>
 #include <ctime>
 #include <fcntl.h>
@@ -83,13 +84,6 @@ private:
         size = static_cast<socklen_t>(bytes);
     }
 };
-
-BusTime wallClock()
-{
-    return std::chrono::duration_cast<std::chrono::nanoseconds>(
-               std::chrono::system_clock::now().time_since_epoch())
-        .count();
-}
 
 bool setOption(int handle, int level, int name, int value)
 {
@@ -315,7 +309,7 @@ std::optional<Datagram> UdpSocket::receive()
     datagram.from = address.endpoint();
     m->readControl(header, datagram);
     if (datagram.time == 0) {
-        datagram.time = wallClock();
+        datagram.time = wallNow();
     }
     return datagram;
 }

@@ -1,13 +1,16 @@
 #include "modules/virtual/DeviceDescription.h"
 
+#include "modules/support/Properties.h"
 #include "modules/virtual/BitTiming.h"
 #include "modules/virtual/DeviceSettings.h"
 
 #include <array>
 #include <string>
-#include <utility>
 
 namespace canvirtual {
+
+using canmodule::numberedChoices;
+using canmodule::property;
 
 namespace {
 
@@ -54,18 +57,6 @@ std::vector<PropertyChoice> bitRateChoices()
     return choices;
 }
 
-/// Choices that are numbered from 0.
-template <std::size_t Size>
-std::vector<PropertyChoice> numberedChoices(const std::array<const char*, Size>& names)
-{
-    std::vector<PropertyChoice> choices;
-    choices.reserve(Size);
-    for (const char* name : names) {
-        choices.push_back({name, static_cast<std::int32_t>(choices.size())});
-    }
-    return choices;
-}
-
 std::vector<PropertyChoice> pacingChoices()
 {
     std::vector<PropertyChoice> choices;
@@ -74,12 +65,6 @@ std::vector<PropertyChoice> pacingChoices()
         choices.push_back({pacing.name, static_cast<std::int32_t>(choices.size())});
     }
     return choices;
-}
-
-DeviceProperty property(const char* label, const char* key, PropertyKind kind,
-                        std::vector<PropertyChoice> choices = {})
-{
-    return {label, key, {}, kind, std::move(choices), {}};
 }
 
 } // namespace
